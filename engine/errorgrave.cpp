@@ -1,0 +1,11 @@
+#include "engine/errorgrave.h"
+
+namespace zarpel {
+
+void ErrorGrave(Desktop& desktop, const std::string& texto) {
+    desktop.Show({.Text = texto, .Icon = Icon::Critical, .Title = "Error grave"});
+    desktop.Show({.Text = "Reinstale el programa"});
+    desktop.End(kInstalacionDanada);
+}
+
+}  // namespace zarpel

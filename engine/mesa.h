@@ -1,0 +1,153 @@
+// The card table as the engine plays on it: the card slots, the labels it writes, the capture button, and the
+// operations of the game. The main window derives from it and supplies what belongs to a window (the pure
+// virtual functions), so that the engine plays without knowing any.
+//
+// Every move ends in the turn decision, DecideTurno, which deals when both hands are empty, ends the deal
+// when the stock is used up, and gives the move to the next player. The computer's move runs inside it,
+// pauses included; it returns when the human is to move.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "engine/slot.h"
+#include "platform/desktop.h"
+
+namespace zarpel {
+
+constexpr int kLugaresMesa = 8;
+constexpr int kLugaresMano = 3;
+constexpr int kSumaDeLevante = 15;
+
+// The count of a deal: rows cards, oros, sevens, velo and zarpels; columns computer and human.
+enum FilaCuenta { kCartasGanadas, kOros, kSietes, kVelo, kZarpels, kFilasCuenta };
+enum ColumnaCuenta { kCpu, kHumano, kColumnasCuenta };
+using Matriz = std::array<std::array<int, kColumnasCuenta>, kFilasCuenta>;
+
+class Mesa {
+  public:
+    explicit Mesa(Desktop& desktop) : desktop_(desktop) {}
+    virtual ~Mesa() = default;
+    Mesa(const Mesa&) = delete;
+    Mesa& operator=(const Mesa&) = delete;
+
+    // --- Slots, by row ---
+    std::array<Image, kLugaresMesa> mesaimg;
+    std::array<CheckBox, kLugaresMesa> CheckMesa;
+    std::array<Image, kLugaresMano> cartap1img;  // the computer's hand
+    std::array<Image, kLugaresMano> fondop1img;  // the backs over it
+    std::array<CheckBox, kLugaresMano> CheckCartap1;
+    std::array<Image, kLugaresMano> cartap2img;  // the human's hand
+    std::array<CheckBox, kLugaresMano> CheckCartap2;
+
+    Slot SlotMesa(int i) { return {mesaimg.at(Pos(i)), CheckMesa.at(Pos(i)), clase::kMesa}; }
+    Slot SlotCpu(int i) { return {cartap1img.at(Pos(i)), CheckCartap1.at(Pos(i)), clase::kCpu}; }
+    Slot SlotHumano(int i) { return {cartap2img.at(Pos(i)), CheckCartap2.at(Pos(i)), clase::kHumano}; }
+    // The slot of a position code: 1 to 4 are table slots 0 to 3, 5 to 7 the computer's hand, 8 to 10 the
+    // human's, 11 to 14 table slots 4 to 7.
+    Slot SlotDePosicion(int codigo);
+
+    // --- What the engine writes ---
+    Label puntajeP1Lbl, puntajeP2Lbl;  // points in the match
+    Label namelbl, Label2;             // the nickname
+    Label cartellbl;                   // who deals, who plays, what the computer does
+    Label SumandoLbl;                  // sum of the selected cards; its Tag holds it as text, "" counts as 0
+    Button LevantarBtn;                // asks for the capture
+
+    // --- Match, dealing and turns (partida.cpp) ---
+
+    // Starts a new match: points 0, a dealer drawn by chance, a fresh deck, the first turn decision.
+    void ResetGame();
+    void Inicia();
+    void DecideTurno();
+    // One distribution: three cards to each player; the first of a deal also lays four on the table.
+    void SeReparte();
+    // Lays the hand card shown in `Source` on the first free table slot and passes the turn. On a full table
+    // nothing happens, and the turn stays.
+    void Juega(Image& Source);
+    // Sets the owner tag of card `subind`; an index that no card has is passed over.
+    void AsignoANaipe(int subind, const std::string& aquien);
+
+    // --- Passing and annulling (paso.cpp) ---
+
+    // True when a hand card and table cards make 15.
+    bool PuedeLevantar(char manoDe);
+    // True when the player with this kind letter has cards but can neither capture nor lay one.
+    bool Bloqueado(char manoDe);
+    bool TieneCartas(char manoDe);
+    bool MesaLlena();
+
+    // --- Selection and capture (captura.cpp) ---
+
+    // Selects a slot's card, or deselects it when it is selected. `mp` is the slot's kind letter. A second
+    // card of the human's hand and a sum above 15 are refused; the human is told.
+    void Verifica(Image& carta, CheckBox& marca, char mp);
+    void Verifica(const Slot& slot) { Verifica(slot.Imagen, slot.Marca, slot.Clase); }
+    // Gives the selected cards to `duenio` (an owner tag) when they make 15, and passes the turn. The human's
+    // capture needs one card of the hand. Says why not, and changes nothing, otherwise.
+    void Levanta(const std::string& duenio);
+    void SumaZarpel(const std::string& duenio);
+    // Lowers every table card that is not selected.
+    void BajaCartasMesa();
+    // Value of the running sum.
+    int Suma() const;
+
+    // --- The computer's move (turnopc.cpp) ---
+    void TurnoPc();
+
+    // --- End of deal and of match (puntos.cpp) ---
+
+    // Counts a finished deal, shows the results, adds the points, and deals again or ends the match.
+    void CuentaPuntos();
+    void AsignaRestoALUltimo(const std::string& duenio);
+    // Announces the result of the match and offers a new one. Ends the program when it is declined.
+    void DefineGanador(std::int16_t puntaje1, std::int16_t puntaje2);
+
+    // --- What the window supplies ---
+
+    // Shows the window if it is not shown yet.
+    virtual void MuestraVentana() = 0;
+    // Loads the picture file into the slot of a position code and marks it with card index `subind`. True
+    // when that was done, or when there was nothing to do (an empty path, no such code). False: the picture
+    // cannot be loaded, and the slot is unchanged.
+    [[nodiscard]] virtual bool UpdateImagenDesktop(int i, const std::string& Imagen, int subind) = 0;
+    // Shows both hands, and at the start of a deal the first four table slots alone.
+    virtual void SetPantalla() = 0;
+    // Puts every card to rest, clears every selection and the sum, removes the backs of cards that were
+    // played.
+    virtual void EmprolijaDesktop() = 0;
+    virtual void CargaDorsos() = 0;
+    // Reads a preference file; says so when it is missing or damaged.
+    virtual void LoadProperty(const std::string& fichero) = 0;
+    // Shows a deal's count and returns when the player has closed it.
+    virtual void MuestraResultados(const Matriz& matriz) = 0;
+
+  protected:
+    Desktop& desktop_;
+
+  private:
+    static constexpr std::size_t Pos(int i) { return static_cast<std::size_t>(i); }
+
+    void RepartoNuevo();
+    void AnunciaReparto();
+    void JuegaHumano();
+    void JuegaCpu();
+    bool ManosVacias();
+    void DaCarta(int codigo, const std::string& aquien);
+    void OcultaSinRepartir(int primera, int ultima);
+    void Pasa();
+    void AnulaReparto();
+    void PonSuma(int suma);
+    void Entrega(const Slot& slot, const std::string& duenio);
+    bool EligeHumana();
+    void Elige(const Slot& slot);
+    bool BuscaLevante(int& carta);
+    bool PruebaDesde(int carta, int ancla);
+    Matriz Cuenta() const;
+
+    // Passes since a card was last played or dealt. Two in a row mean that nobody can move.
+    int pasosSeguidos_ = 0;
+};
+
+}  // namespace zarpel

@@ -1,0 +1,33 @@
+// Colour codes: signed 32-bit numbers that name either an RGB colour, laid out as 0x00BBGGRR (red in the low
+// byte), or, with the top bit set, a colour of the window system's palette (0x80000000 + number, 0 to 24).
+#pragma once
+
+#include <cstdint>
+
+namespace zarpel {
+
+using ColorCode = std::int32_t;
+
+constexpr ColorCode Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
+
+// Numbers of the window system's palette that the game uses, and the highest there is.
+enum PaletteNumber : std::uint32_t { kWindowText = 8, kHighlightText = 14, kButtonFace = 15, kGrayText = 17 };
+constexpr std::uint32_t kLastPaletteNumber = 24;
+
+constexpr ColorCode SystemColor(std::uint32_t number) { return static_cast<ColorCode>(0x80000000U | number); }
+
+// True for a palette colour (the top bit is set).
+constexpr bool IsSystemColor(ColorCode code) { return code < 0; }
+
+// The palette number of a palette colour.
+constexpr std::uint32_t PaletteNumberOf(ColorCode code) {
+    return static_cast<std::uint32_t>(code) & 0x7FFFFFFFU;
+}
+
+// False for the codes that the window system refuses: an RGB colour of more than 24 bits, or a palette number
+// that does not exist.
+constexpr bool IsColorCode(ColorCode code) {
+    return IsSystemColor(code) ? PaletteNumberOf(code) <= kLastPaletteNumber : code <= 0xFFFFFF;
+}
+
+}  // namespace zarpel

@@ -1,0 +1,37 @@
+// A window: its client area, what it holds, and the events that it takes itself.
+#pragma once
+
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/keys.h"
+
+namespace zarpel {
+
+enum class FormBorder {
+    Sizable,      // ordinary window; it opens maximised, and resizing moves nothing
+    FixedDialog,  // fixed size, no minimise and maximise buttons, not in the task bar
+};
+
+class Form : public Container {
+  public:
+    // The front end builds forms itself; a form is never a child.
+    void Accept(ControlVisitor&) override {}
+
+    FormBorder Border = FormBorder::Sizable;
+    bool CenterOnScreen = false;  // else a dialog opens over the window below it
+    std::vector<Menu*> Menus;
+
+    // Every key pressed while the window is active, before the focused control gets it (which it still does).
+    // `keycode` names the key, not the character (keys.h); `shift` is a sum of shift masks.
+    virtual void Form_KeyDown(int /*keycode*/, int /*shift*/) {}
+    // The pointer moved over the bare background; `x` and `y` in twips from the client area's top left
+    // corner.
+    virtual void Form_MouseMove(int /*x*/, int /*y*/) {}
+    virtual void Form_DblClick() {}
+    // The player wants the window closed from its title bar (or the session ends). The window closes only if
+    // the handler unloads it.
+    virtual void Form_QueryClose() = 0;
+};
+
+}  // namespace zarpel

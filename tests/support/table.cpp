@@ -1,0 +1,58 @@
+#include "tests/support/table.h"
+
+namespace zarpel {
+namespace {
+
+void Fill(const Slot& slot, int carta, const std::string& duenio) {
+    slot.Imagen.Visible = carta != 0;
+    if (carta == 0) return;
+    slot.Imagen.Tag = std::to_string(carta);
+    slot.Imagen.Picture = Naipes->Mazo_Imagen(carta);
+    Naipes->aMazo_Duenio(carta, duenio);
+}
+
+int At(std::initializer_list<int> cards, int i) {
+    return static_cast<std::size_t>(i) < cards.size() ? cards.begin()[i] : 0;
+}
+
+}  // namespace
+
+Table::Table(unsigned seed, bool humanFirst) : Desktop(seed) {
+    Desktop.Draws = {humanFirst ? 0.0 : 0.9};  // the first draw chooses the dealer
+    Window.Load();
+}
+
+void Table::Lay(std::initializer_list<int> mesa, std::initializer_list<int> humano,
+                std::initializer_list<int> cpu) {
+    for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
+    for (int i = 0; i < kLugaresMesa; ++i) Fill(Window.SlotMesa(i), At(mesa, i), duenios::kLaMesa);
+    for (int i = 0; i < kLugaresMano; ++i) {
+        Fill(Window.SlotHumano(i), At(humano, i), duenios::kHumano);
+        Fill(Window.SlotCpu(i), At(cpu, i), duenios::kCpu);
+        Window.fondop1img.at(static_cast<std::size_t>(i)).Visible = At(cpu, i) != 0;
+    }
+    Window.EmprolijaDesktop();
+    Reparto->aTurno(1);
+    Desktop.Boxes.clear();
+    Desktop.Calls.clear();
+    Desktop.Pauses.clear();
+}
+
+std::vector<int> Table::OnTable() {
+    std::vector<int> cards;
+    for (int i = 0; i < kLugaresMesa; ++i) {
+        if (Window.SlotMesa(i).Ocupado()) cards.push_back(Window.SlotMesa(i).Carta());
+    }
+    return cards;
+}
+
+std::vector<int> Table::InHand(char clase) {
+    std::vector<int> cards;
+    for (int i = 0; i < kLugaresMano; ++i) {
+        const Slot slot = clase == clase::kCpu ? Window.SlotCpu(i) : Window.SlotHumano(i);
+        if (slot.Ocupado()) cards.push_back(slot.Carta());
+    }
+    return cards;
+}
+
+}  // namespace zarpel

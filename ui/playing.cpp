@@ -1,0 +1,35 @@
+#include "ui/playing.h"
+
+#include "engine/zarpelfunc.h"
+
+namespace zarpel {
+
+Playing::Playing(Desktop& desktop) : Mesa(desktop) { ConnectEvents(); }
+
+void Playing::Load() {
+    Design();
+    Form_Load();
+}
+
+void Playing::Form_Load() {
+    ArchivoNaipes = desktop_.Folder() + "\\naipe.dat";
+    Naipes.emplace(desktop_);
+    Reparto.emplace();
+    ResetGame();
+}
+
+void Playing::ConnectEvents() {
+    for (int i = 0; i < kLugaresMesa; ++i) {
+        SlotMesa(i).Imagen.Click = [this, i] { mesaimg_Click(i); };
+    }
+    for (int i = 0; i < kLugaresMano; ++i) {
+        SlotHumano(i).Imagen.Click = [this, i] { cartap2img_Click(i); };
+    }
+    LevantarBtn.Click = [this] { LevantarBtn_Click(); };
+    Frame1.DragDrop = [this](Image& source) { Frame1_DragDrop(source); };
+    Toolbar1.ButtonClick = [this](const std::string& key) { Toolbar1_ButtonClick(key); };
+    Nuevomnu.Click = [this] { Nuevomnu_Click(); };
+    salir.Click = [this] { salir_Click(); };
+}
+
+}  // namespace zarpel

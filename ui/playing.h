@@ -1,0 +1,69 @@
+// The main window: the green table on which the player meets the computer. What it holds is stated in
+// playing_design.cpp; what the player does to it arrives in playing_input.cpp and playing_commands.cpp.
+#pragma once
+
+#include <string>
+
+#include "engine/mesa.h"
+#include "platform/form.h"
+
+namespace zarpel {
+
+class Playing : public Form, public Mesa {
+  public:
+    // `desktop` must outlive the window.
+    explicit Playing(Desktop& desktop);
+
+    // Brings every control to its design state and runs Form_Load. Called at the start of the program, and
+    // again to open a saved match: the window on the screen stays, what it holds begins anew.
+    void Load();
+
+    // --- Controls that the engine does not touch ---
+    Frame Frame1;  // the table area; its background is the rectangle colour
+    Label Label1, Label3;
+    Line Line1, Line2;
+    ToolBar Toolbar1;  // its Tag holds the command line that "Run" starts
+    StatusBar StatusBar1;
+    zarpel::CommonDialog CommonDialog;
+    Menu Archivomnu{"Archivo"}, Nuevomnu{"Nuevo"}, abrirmnu{"Abrir"}, guardarmnu{"Guardar"},
+        nombremnu{"Nombre jugador"}, preferenciasmnu{"Preferencias"}, salir{"Salir"};
+    Menu ayudafrm{"Ayuda"}, contenidosmnu{"Contenidos"}, acercamnu{"Acerca de..."};
+
+    // --- Display (playing_display.cpp) ---
+    void MuestraVentana() override { desktop_.Show(*this); }
+    [[nodiscard]] bool UpdateImagenDesktop(int i, const std::string& Imagen, int subind) override;
+    void SetPantalla() override;
+    void EmprolijaDesktop() override;
+    void CargaDorsos() override;
+    void MuestraResultados(const Matriz& matriz) override;
+
+    // --- Input (playing_input.cpp) ---
+    void mesaimg_Click(int Index);
+    void cartap2img_Click(int Index);
+    void LevantarBtn_Click();
+    void Frame1_DragDrop(Image& Source);
+    void Form_KeyDown(int keycode, int shift) override;
+    void Form_MouseMove(int x, int y) override;
+    void Form_DblClick() override;
+    void Form_QueryClose() override;
+    // The keyboard map; `mayus` is the sum of the shift masks.
+    void SensordeTeclas(int KeyAscii, int mayus);
+
+    // --- Commands (playing_commands.cpp) ---
+    void Nuevomnu_Click();
+    void salir_Click();
+    void Toolbar1_ButtonClick(const std::string& key);
+
+    // --- Files (playing_files.cpp) ---
+    void LoadProperty(const std::string& fichero) override;
+
+  private:
+    void Form_Load();
+    void Design();
+    void DesignSlots();
+    void DesignCommands();
+    void ConnectEvents();
+    bool Confirma(const std::string& texto, Icon icono);
+};
+
+}  // namespace zarpel

@@ -1,0 +1,186 @@
+// What the main window holds: every control with its place (twips: left, top, width, height), texts, font and
+// colours. This is the file to edit when the table is to look different.
+#include <array>
+
+#include "engine/zarpelfunc.h"
+#include "ui/design.h"
+#include "ui/playing.h"
+
+namespace zarpel {
+namespace {
+
+constexpr ColorCode kYellow = Rgb(255, 255, 0);
+constexpr ColorCode kLightYellow = Rgb(255, 255, 128);
+constexpr int kCardCorner = 90;
+
+// Where the pictures and flags of the slots stand; the tops of the pictures are the resting tops of their
+// row.
+struct RowDesign {
+    int Left, Step, Width, Height;
+};
+constexpr RowDesign kTableRow = {120, 1320, 1200, 1875};
+constexpr RowDesign kCpuRow = {3600, 1560, 1455, 2010};
+constexpr RowDesign kHumanRow = {3480, 1560, 1455, 2010};
+constexpr int kBackWidth = 1450;
+
+constexpr std::array kTableFlags = {600, 1800, 3120, 4680, 5760, 7200, 8760, 9840};
+constexpr std::array kCpuFlags = {4440, 5520, 6960};
+constexpr std::array kHumanFlags = {4080, 5640, 7200};
+constexpr int kTableFlagTop = 0, kCpuFlagTop = 2520, kHumanFlagTop = 6000;
+constexpr int kFlagWidth = 375, kFlagHeight = 255;
+
+const std::array kTableTips = {"carta a tomar", "carta a tomar", "carta en mesa", "carta a tomar",
+                               "carta a tomar", "carta a tomar", "carta a tomar", "carta a tomar"};
+const std::array kCpuTips = {"Carta Cpu", "Carta Cpu", "Carta Cpu"};
+const std::array kHumanTips = {"Vuestra carta", "Carta 1", "Carta 1"};
+
+Place InRow(const RowDesign& row, int i, char letra) {
+    return {row.Left + row.Step * i, AlturaDe(letra).Reposo, row.Width, row.Height};
+}
+
+void DrawCard(Container& container, Image& image, const Place& at, const char* tip) {
+    Draw(container, image, at);
+    image.ToolTip = tip;
+    image.Picture = "";
+    image.Corner = kCardCorner;
+}
+
+void DrawFlag(Container& container, const Slot& slot, int left, int top) {
+    Draw(container, slot.Marca, {left, top, kFlagWidth, kFlagHeight});
+    slot.Marca.Value = 0;
+    // The flag is not drawn: its picture shows it and speaks of it.
+    slot.Marca.Changed = [&image = slot.Imagen] { image.Refresh(); };
+}
+
+std::string NameOfCard(int carta) {
+    return carta == 0 ? "carta"
+                      : std::to_string(Naipes->Mazo_Numero(carta)) + " de " + Naipes->Mazo_Palo(carta);
+}
+
+// Places are counted from 1, as a player counts.
+void Speak(const Slot& slot, const char* row, int i) {
+    const std::string place = row + std::string(" ") + std::to_string(i + 1);
+    slot.Imagen.Spoken = [slot, place] {
+        return Spoken{NameOfCard(slot.Carta()), place + (slot.Elegido() ? ", elegida" : "")};
+    };
+}
+
+}  // namespace
+
+void Playing::Design() {
+    Children.clear();
+    Caption = "Playing";
+    BackColor = kTableGreen;
+    CommonDialog.DefaultExt = "zrp";
+    CommonDialog.Filter = "(*.zrp)|*.zrp";
+    CommonDialog.Color = kBlack;  // the file name last chosen outlives the reload that opens it
+
+    const Font trebuchet = {"Trebuchet MS", 9.75, true};
+    const Font points = {"MS Sans Serif", 18};
+    Draw(*this, {{.Control = Frame1, .At = {480, 3000, 10815, 2655}, .Border = false}});
+    Frame1.BackColor = SystemColor(kButtonFace);
+    Draw(*this, {{Line1, 1200, 360, 1200, 2280}, {Line2, 120, 720, 2280, 720}});
+    Draw(*this, {{.Control = Label1,
+                  .At = {120, 360, 975, 255},
+                  .Caption = "Score CPU",
+                  .Font = trebuchet,
+                  .ForeColor = kWhite},
+                 {.Control = Label2,
+                  .At = {1275, 360, 1065, 300},
+                  .Caption = "Tus Puntos",
+                  .Font = trebuchet,
+                  .ForeColor = kWhite,
+                  .Align = Alignment::Center,
+                  .AutoSize = true,
+                  .MaxWidth = 1215},
+                 {.Control = puntajeP1Lbl, .At = {120, 840, 975, 375}, .Font = points, .ForeColor = kYellow},
+                 {.Control = puntajeP2Lbl, .At = {1440, 840, 975, 375}, .Font = points, .ForeColor = kYellow},
+                 {.Control = SumandoLbl,
+                  .At = {1560, 2160, 270, 360},
+                  .Font = {"Terminal", 18, true},
+                  .ForeColor = kLightYellow,
+                  .BackColor = kTableGreen,
+                  .AutoSize = true},
+                 {.Control = cartellbl,
+                  .At = {8640, 1560, 3015, 495},
+                  .Font = {"MS Sans Serif", 13.5},
+                  .ForeColor = SystemColor(kHighlightText),
+                  .BackColor = kTableGreen,
+                  .Align = Alignment::Center,
+                  .WordWrap = true},
+                 {.Control = namelbl,
+                  .At = {8400, 6120, 0, 360},
+                  .Font = {"MS Sans Serif", 13.5, true},
+                  .ForeColor = kWhite,
+                  .AutoSize = true,
+                  .MaxWidth = 3400},
+                 {.Control = Label3,
+                  .At = {11160, 8040, 640, 195},
+                  .Caption = "Zarpel 1.0",
+                  .Align = Alignment::Right,
+                  .AutoSize = true}});
+    cartellbl.Announced = true;
+    SumandoLbl.Announced = true;
+    DesignSlots();
+    Draw(*this, {{LevantarBtn, {2160, 6480, 1095, 615}, "&Tomar Cartas"}});
+    DesignCommands();
+}
+
+void Playing::DesignSlots() {
+    for (int i = 0; i < kLugaresMesa; ++i) {
+        const Slot slot = SlotMesa(i);
+        DrawCard(Frame1, slot.Imagen, InRow(kTableRow, i, clase::kMesa), kTableTips.at(std::size_t(i)));
+        Speak(slot, "mesa", i);
+    }
+    for (int i = 0; i < kLugaresMano; ++i) {
+        const Slot cpu = SlotCpu(i);
+        const auto pos = static_cast<std::size_t>(i);
+        DrawCard(*this, cpu.Imagen, InRow(kCpuRow, i, clase::kCpu), kCpuTips.at(pos));
+        Speak(cpu, "cpu", i);
+
+        Image& dorso = fondop1img.at(pos);
+        Place over = InRow(kCpuRow, i, clase::kCpu);
+        over.Width = kBackWidth;
+        DrawCard(*this, dorso, over, "");
+        dorso.Picture = ":/dorso.jpg";
+        dorso.Spoken = [i] { return Spoken{"carta tapada", "cpu " + std::to_string(i + 1)}; };
+        cpu.Imagen.Cover = &dorso;
+
+        const Slot humano = SlotHumano(i);
+        DrawCard(*this, humano.Imagen, InRow(kHumanRow, i, clase::kHumano), kHumanTips.at(pos));
+        humano.Imagen.Draggable = true;
+        Speak(humano, "mano", i);
+    }
+    for (int i = 0; i < kLugaresMesa; ++i) {
+        DrawFlag(Frame1, SlotMesa(i), kTableFlags.at(std::size_t(i)), kTableFlagTop);
+    }
+    for (int i = 0; i < kLugaresMano; ++i) {
+        DrawFlag(*this, SlotCpu(i), kCpuFlags.at(std::size_t(i)), kCpuFlagTop);
+        DrawFlag(*this, SlotHumano(i), kHumanFlags.at(std::size_t(i)), kHumanFlagTop);
+    }
+}
+
+void Playing::DesignCommands() {
+    Draw(*this, Toolbar1, {9120, 120, 2595, 1110});
+    Toolbar1.Tag = "Click Here";
+    Toolbar1.ButtonWidth = 825;
+    Toolbar1.ButtonHeight = 1020;
+    Toolbar1.Buttons = {{"Nuevo", "Nuevo", "Nuevo Juego", ":/nuevo.png"},
+                        {"Run", "Run", "", ":/run.png"},
+                        {"Salir", "Salir", "Salir del Juego", ":/salir.png"}};
+
+    using Content = StatusBar::Content;
+    Draw(*this, StatusBar1, {0, 0, 0, 255});
+    StatusBar1.Visible = false;
+    StatusBar1.Panels = {{Content::Text, "ZARPEL GAME", 2440},
+                         {Content::Text, "", 4440},
+                         {Content::Text, "", 1440},
+                         {Content::Date, "", 2440},
+                         {Content::Time, "", 1440}};
+
+    Menus = {&Archivomnu, &ayudafrm};
+    Archivomnu.Entries = {&Nuevomnu, &abrirmnu, &guardarmnu, &nombremnu, &preferenciasmnu, &salir};
+    ayudafrm.Entries = {&contenidosmnu, &acercamnu};
+}
+
+}  // namespace zarpel

@@ -1,0 +1,53 @@
+// What the player does on the table with mouse and keyboard.
+#include <array>
+#include <string_view>
+
+#include "engine/zarpelfunc.h"
+#include "ui/playing.h"
+
+namespace zarpel {
+namespace {
+
+constexpr std::string_view kTeclasMano = "123";
+constexpr std::string_view kTeclasMesa = "ASDFGHJK";
+constexpr int kTeclaTomar = 'L';
+constexpr int kBordeBarra = 8055;  // from here down the pointer calls the status bar (twips)
+
+}  // namespace
+
+void Playing::mesaimg_Click(int Index) { Verifica(SlotMesa(Index)); }
+
+void Playing::cartap2img_Click(int Index) { Verifica(SlotHumano(Index)); }
+
+void Playing::LevantarBtn_Click() { Levanta(duenios::kHumano); }
+
+void Playing::Frame1_DragDrop(Image& Source) { Juega(Source); }
+
+void Playing::Form_KeyDown(int keycode, int shift) { SensordeTeclas(keycode, shift); }
+
+void Playing::SensordeTeclas(int KeyAscii, int mayus) {
+    if (puntajeP1Lbl.Caption.get().empty()) return;
+    if (KeyAscii == kTeclaTomar) return Levanta(duenios::kHumano);
+
+    const char tecla = static_cast<char>(KeyAscii);
+    const std::size_t mesa = kTeclasMesa.find(tecla);
+    if (mesa != std::string_view::npos) {
+        const Slot slot = SlotMesa(static_cast<int>(mesa));
+        if (slot.Ocupado()) Verifica(slot);
+        return;
+    }
+    const std::size_t mano = kTeclasMano.find(tecla);
+    if (mano == std::string_view::npos) return;
+    const Slot slot = SlotHumano(static_cast<int>(mano));
+    if (!slot.Ocupado()) return;
+    if (mayus == kShift) return Juega(slot.Imagen);
+    Verifica(slot);
+}
+
+void Playing::Form_MouseMove(int /*x*/, int y) { StatusBar1.Visible = y >= kBordeBarra; }
+
+void Playing::Form_DblClick() { CommonDialog.ShowHelp(); }
+
+void Playing::Form_QueryClose() { salir_Click(); }
+
+}  // namespace zarpel
