@@ -5,8 +5,13 @@
 
 namespace zarpel {
 
-enum KeyCode { kKeyNone = 0, kKeyTab = 9, kKeyF1 = 112 };  // and 'A' to 'Z', '0' to '9'
+// Besides 'A' to 'Z' and '0' to '9'.
+constexpr int kKeyNone = 0;
+constexpr int kKeyTab = 9;
+constexpr int kKeyF1 = 112;
 
-enum ShiftMask { kShift = 1, kCtrl = 2, kAlt = 4 };
+constexpr int kShift = 1;
+constexpr int kCtrl = 2;
+constexpr int kAlt = 4;
 
 }  // namespace zarpel

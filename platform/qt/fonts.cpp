@@ -1,0 +1,65 @@
+#include "platform/qt/fonts.h"
+
+#include <QFontMetrics>
+#include <array>
+
+namespace zarpel {
+namespace {
+
+constexpr const char* kDefaultFamily = "Liberation Sans";
+
+struct Substitute {
+    const char* Named;
+    const char* Family;
+};
+constexpr std::array kSubstitutes = {
+    Substitute{"Terminal", "DejaVu Sans Mono"},
+    Substitute{"Palatino Linotype", "P052"},
+    Substitute{"Lucida Bright", "DejaVu Serif"},
+};
+
+constexpr int kMostCondensed = 70;  // per cent; narrower letters are harder to read than smaller ones
+constexpr int kCondenseStep = 5;
+constexpr int kSmallest = 4;  // pixels
+
+bool Fits(const QString& text, const QFont& font, const QSize& room, bool wrap) {
+    const QFontMetrics metrics(font);
+    if (wrap) {
+        const QRect bounds =
+            metrics.boundingRect(QRect(0, 0, room.width(), room.height()), Qt::TextWordWrap, text);
+        return bounds.width() <= room.width() && bounds.height() <= room.height();
+    }
+    // What counts below the line is the ink of this text: a line of digits needs no room for descenders.
+    const int below = std::max(0, metrics.tightBoundingRect(text).bottom());
+    return metrics.horizontalAdvance(text) <= room.width() && metrics.ascent() + below <= room.height();
+}
+
+}  // namespace
+
+QFont FontOf(const Font& font, const Scale& scale) {
+    const auto* const substitute =
+        std::find_if(kSubstitutes.begin(), kSubstitutes.end(),
+                     [&font](const Substitute& candidate) { return font.Family == candidate.Named; });
+    QFont result(substitute == kSubstitutes.end() ? kDefaultFamily : substitute->Family);
+    result.setBold(font.Bold);
+    result.setPixelSize(std::max(1, scale.Pixels(font.Points * kTwipsPerPoint)));
+    return result;
+}
+
+QSize NaturalSize(const QString& text, const QFont& font) {
+    const QFontMetrics metrics(font);
+    return {metrics.horizontalAdvance(text), metrics.height()};
+}
+
+QFont FitFont(const QString& text, QFont font, const QSize& room, bool wrap) {
+    for (int stretch = 100; stretch >= kMostCondensed; stretch -= kCondenseStep) {
+        font.setStretch(stretch);
+        if (Fits(text, font, room, wrap)) return font;
+    }
+    while (font.pixelSize() > kSmallest && !Fits(text, font, room, wrap)) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
+    return font;
+}
+
+}  // namespace zarpel

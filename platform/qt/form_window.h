@@ -1,0 +1,61 @@
+// The window on the screen that shows one form of the game.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/qt/event_gate.h"
+#include "platform/qt/views.h"
+
+class QMenuBar;
+
+namespace zarpel {
+
+// The form's client area: its background, and what the pointer does there.
+class ClientArea : public QWidget {
+  public:
+    ClientArea(Form& form, const ViewContext& context, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+  private:
+    Form& form_;
+    const ViewContext& context_;
+};
+
+class FormWindow : public QWidget {
+  public:
+    // Builds the widgets; shows nothing yet. `owner` is the window above which a dialog stands, or null.
+    FormWindow(Form& form, const ViewContext& context, QWidget* owner);
+    ~FormWindow() override;
+
+    // Brings every widget into step with its control; needed when the scale has changed.
+    void Sync();
+    // Gives a dialog the size of its form, and its place.
+    void PlaceDialog();
+
+    QSize ClientSize() const { return client_->size(); }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+  private:
+    void AddMenus();
+
+    Form& form_;
+    const ViewContext& context_;
+    QMenuBar* menuBar_ = nullptr;  // forms without menus have none
+    ClientArea* client_;
+    std::vector<View*> views_;  // children of the window, which owns them
+};
+
+}  // namespace zarpel

@@ -1,0 +1,71 @@
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleHints>
+
+#include "platform/qt/views.h"
+
+namespace zarpel {
+
+void ImageView::Sync() {
+    ControlView::Sync();
+    if (control_.Spoken) {
+        const Spoken spoken = control_.Spoken();
+        setAccessibleName(QString::fromStdString(spoken.Name));
+        setAccessibleDescription(QString::fromStdString(spoken.Description));
+    }
+    for (ImageView* const covered : covered_) covered->Sync();
+    update();
+}
+
+bool ImageView::Shown() const { return control_.Visible && !(control_.Cover && control_.Cover->Visible); }
+
+QPixmap ImageView::Pixmap() const {
+    return context_.Pictures.Scaled(control_.Picture, size(), context_.Scale.Pixels(control_.Corner),
+                                    devicePixelRatioF());
+}
+
+void ImageView::paintEvent(QPaintEvent*) {
+    if (dragged_) return;  // the card is under the pointer
+    QPainter(this).drawPixmap(0, 0, Pixmap());
+}
+
+void ImageView::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    pressedAt_ = event->position().toPoint();
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    if (!pressed_ || !control_.Draggable) return;
+    if (!dragged_) {
+        if ((at - pressedAt_).manhattanLength() < QApplication::startDragDistance()) return;
+        dragged_ = new QLabel(window());
+        dragged_->setAttribute(Qt::WA_TransparentForMouseEvents);
+        dragged_->setPixmap(Pixmap());
+        dragged_->resize(size());
+        dragged_->show();
+        update();
+    }
+    dragged_->move(mapTo(window(), at - pressedAt_));
+}
+
+void ImageView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!pressed_ || event->button() != Qt::LeftButton) return;
+    pressed_ = false;
+    const QPoint at = event->position().toPoint();
+    if (dragged_) return Drop(event->globalPosition().toPoint());
+    const bool still = (at - pressedAt_).manhattanLength() < QApplication::startDragDistance();
+    if (still && rect().contains(at)) Press();
+}
+
+// Only the bare table area takes a card; anywhere else it goes back to its place.
+void ImageView::Drop(const QPoint& global) {
+    delete dragged_;
+    dragged_ = nullptr;
+    update();
+    auto* const area = dynamic_cast<AreaView*>(window()->childAt(window()->mapFromGlobal(global)));
+    if (area) area->Dropped(control_);
+}
+
+}  // namespace zarpel

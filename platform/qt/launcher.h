@@ -1,0 +1,12 @@
+// Starts other programs.
+#pragma once
+
+#include <string>
+
+namespace zarpel {
+
+// As Desktop::Run. A command line that is, whole, the path of a file starts that file, blanks and all;
+// otherwise blanks separate the program and its arguments, and double quotes keep blanks together.
+void Launch(const std::string& commandLine);
+
+}  // namespace zarpel

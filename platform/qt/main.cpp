@@ -1,0 +1,17 @@
+// The game on the Qt desktop.
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+
+#include "platform/qt/qt_desktop.h"
+#include "ui/playing.h"
+
+int main(int argc, char** argv) {
+    QApplication::setApplicationName(QStringLiteral("Zarpel"));
+    const QApplication application(argc, argv);
+    zarpel::QtDesktop desktop(QApplication::applicationDirPath().toStdString());
+    zarpel::Playing playing(desktop);
+    // Inside the event loop, so that the start is an event like any other: what comes meanwhile waits.
+    QTimer::singleShot(0, &application, [&] { desktop.Pass(playing, [&playing] { playing.Load(); }); });
+    return QApplication::exec();
+}

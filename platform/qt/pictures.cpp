@@ -1,0 +1,64 @@
+#include "platform/qt/pictures.h"
+
+#include <QBrush>
+#include <QImageReader>
+#include <QPainter>
+
+#include "platform/qt/files.h"
+
+namespace zarpel {
+namespace {
+
+// No card on any screen is larger. A photograph chosen as card back is made smaller while it is decoded.
+constexpr QSize kLargest(1024, 1024);
+
+QImage Decode(const QString& path) {
+    if (!IsRegularFile(path)) return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.width() > kLargest.width() || size.height() > kLargest.height()) {
+        reader.setScaledSize(size.scaled(kLargest, Qt::KeepAspectRatio));
+    }
+    return reader.read();
+}
+
+QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
+    const QImage stretched = picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (corner <= 0) return QPixmap::fromImage(stretched);
+    QImage rounded(pixels, QImage::Format_ARGB32_Premultiplied);
+    rounded.fill(Qt::transparent);
+    QPainter painter(&rounded);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(stretched));
+    painter.drawRoundedRect(QRectF(QPointF(), QSizeF(pixels)), corner, corner);
+    painter.end();
+    return QPixmap::fromImage(rounded);
+}
+
+}  // namespace
+
+bool Pictures::Load(const std::string& path) {
+    const QString name = SystemPath(path);
+    if (decoded_.contains(name)) return true;
+    const QImage picture = Decode(name);
+    if (picture.isNull()) return false;
+    decoded_.insert(name, picture);
+    return true;
+}
+
+QPixmap Pictures::Scaled(const std::string& path, const QSize& size, int corner, qreal ratio) {
+    if (path.empty() || size.isEmpty() || !Load(path)) return {};
+    const QString name = SystemPath(path);
+    const QSize pixels = (QSizeF(size) * ratio).toSize();
+    const QString key = QStringLiteral("%1x%2 %3").arg(pixels.width()).arg(pixels.height()).arg(name);
+    if (const auto found = scaled_.constFind(key); found != scaled_.constEnd()) return *found;
+    QPixmap pixmap = Stretch(decoded_.value(name), pixels, corner * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    scaled_.insert(key, pixmap);
+    return pixmap;
+}
+
+}  // namespace zarpel

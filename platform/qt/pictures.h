@@ -1,0 +1,27 @@
+// The pictures of the game: each file is decoded once, scaled once per size, and kept.
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+#include <string>
+
+namespace zarpel {
+
+class Pictures {
+  public:
+    // Reads the file, or the built-in picture of a path that begins with ":/". False: no picture there.
+    bool Load(const std::string& path);
+
+    // The picture stretched to `size` (logical pixels) with corners of this radius, for a screen of so many
+    // pixels to a logical pixel. A null pixmap when Load did not take the path.
+    QPixmap Scaled(const std::string& path, const QSize& size, int corner, qreal ratio);
+
+  private:
+    QHash<QString, QImage> decoded_;
+    QHash<QString, QPixmap> scaled_;
+};
+
+}  // namespace zarpel

@@ -1,0 +1,174 @@
+#include "platform/qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QLocale>
+#include <QProcess>
+#include <QScreen>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QTimer>
+#include <QTranslator>
+#include <QWindow>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+
+#include "platform/qt/accessibility.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/files.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/launcher.h"
+
+namespace zarpel {
+namespace {
+
+// How long the window manager may take to maximise the window before it is drawn as it is.
+constexpr int kMaximiseMs = 1000;
+
+void SpeakSpanish() {
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    auto* const translator = new QTranslator(qApp);
+    if (translator->load(QStringLiteral(":/qtbase_es.qm"))) QApplication::installTranslator(translator);
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(std::string folder) : folder_(std::move(folder)) {
+    SpeakSpanish();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zarpel.png")));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
+    InstallAccessibility();
+    UseScale(QApplication::primaryScreen()->availableSize());
+}
+
+QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::Leave(int status) { std::_Exit(status); }
+
+// --- Windows ---
+
+FormWindow* QtDesktop::WindowOf(const Form& form) const {
+    const auto found = std::find_if(opened_.begin(), opened_.end(),
+                                    [&form](const Opened& opened) { return opened.Shown == &form; });
+    return found == opened_.end() ? nullptr : found->Window.get();
+}
+
+QWidget* QtDesktop::TopWindow() const { return opened_.empty() ? nullptr : opened_.back().Window.get(); }
+
+FormWindow& QtDesktop::Open(Form& form, std::function<void()> unloaded) {
+    const ViewContext& context =
+        contexts_.try_emplace(&form, ViewContext{scale_, pictures_, GateOf(form)}).first->second;
+    auto window = std::make_unique<FormWindow>(form, context, TopWindow());
+    opened_.push_back({&form, std::move(window), std::move(unloaded)});
+    return *opened_.back().Window;
+}
+
+void QtDesktop::Show(Form& form) {
+    if (WindowOf(form)) return;
+    EventGate& gate = GateOf(form);
+    ShowMaximised(Open(form, [&gate] {
+        gate.Clear();
+        gate.Idle = [] { QApplication::quit(); };
+    }));
+}
+
+// The scale depends on the room that the maximised window really has, under its title and menu bar. The table
+// is drawn when that is known, at once in its final size.
+void QtDesktop::ShowMaximised(FormWindow& window) {
+    window.setUpdatesEnabled(false);
+    window.setGeometry(window.screen()->availableGeometry());
+    window.showMaximized();
+    const QDeadlineTimer deadline(kMaximiseMs);
+    while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    }
+    UseScale(window.ClientSize());
+    window.Sync();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    UseScale(window.ClientSize());  // the menu bar has taken its new height
+    window.Sync();
+    window.setUpdatesEnabled(true);
+}
+
+void QtDesktop::UseScale(const QSize& client) {
+    scale_.FitTo(client);
+    QApplication::setFont(FontOf({}, scale_));
+}
+
+void QtDesktop::ShowModal(Form& form) {
+    QEventLoop loop;
+    FormWindow& window = Open(form, [&loop] { loop.quit(); });
+    window.setWindowModality(Qt::ApplicationModal);
+    window.PlaceDialog();
+    window.show();
+    loop.exec();
+    std::erase_if(opened_, [&form](const Opened& opened) { return opened.Shown == &form; });
+    contexts_.erase(&form);
+    gates_.erase(&form);
+}
+
+void QtDesktop::Unload(Form& form) {
+    const auto found = std::find_if(opened_.begin(), opened_.end(),
+                                    [&form](const Opened& opened) { return opened.Shown == &form; });
+    if (found == opened_.end()) return;
+    found->Window->hide();
+    found->Unloaded();
+}
+
+Place QtDesktop::Screen() const {
+    const QSize size = QApplication::primaryScreen()->size();
+    return {0, 0, scale_.Twips(size.width()), scale_.Twips(size.height())};
+}
+
+// --- Boxes and choosers ---
+
+Answer QtDesktop::Show(const Message& message) { return ShowMessage(TopWindow(), message, Title()); }
+
+std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
+                                const std::string& proposed) {
+    return AskText(TopWindow(), prompt, title, proposed);
+}
+
+bool QtDesktop::ShowOpen(CommonDialog& dialog) { return AskFileToOpen(TopWindow(), dialog); }
+bool QtDesktop::ShowSave(CommonDialog& dialog) { return AskFileToSave(TopWindow(), dialog); }
+bool QtDesktop::ShowColor(CommonDialog& dialog) { return AskColor(TopWindow(), dialog); }
+
+// --- Files ---
+
+std::optional<std::string> QtDesktop::ReadFile(const std::string& path, std::size_t limit) {
+    return ReadWholeFile(path, limit);
+}
+
+bool QtDesktop::WriteFile(const std::string& path, const std::string& bytes) {
+    return ReplaceFile(path, bytes);
+}
+
+// --- Time and chance ---
+
+// The toolkit keeps the player's input back and delivers it, in order, once the loop has ended.
+void QtDesktop::Pause(int milliseconds) {
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+// The last draw goes into the seed, so that two seeds taken within one clock tick differ.
+void QtDesktop::Randomize() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+    generator_.seed(static_cast<std::uint64_t>(now) ^ generator_());
+}
+
+double QtDesktop::Rnd() { return std::generate_canonical<double, 53>(generator_); }
+
+// --- Other programs ---
+
+void QtDesktop::OpenHelp(const std::string& /*path*/) {}
+
+void QtDesktop::Run(const std::string& commandLine) { Launch(commandLine); }
+
+}  // namespace zarpel

@@ -1,0 +1,177 @@
+// One widget for each kind of control. A view draws its control, follows its changes, and hands the player's
+// actions over as the control's events.
+#pragma once
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/qt/event_gate.h"
+#include "platform/qt/pictures.h"
+#include "platform/qt/scale.h"
+
+namespace zarpel {
+
+// What all views of a window share.
+struct ViewContext {
+    const zarpel::Scale& Scale;
+    zarpel::Pictures& Pictures;
+    EventGate& Gate;
+};
+
+class View {
+  public:
+    View() = default;
+    virtual ~View() = default;
+    View(const View&) = delete;
+    View& operator=(const View&) = delete;
+
+    // Brings the widget into step with its control.
+    virtual void Sync() = 0;
+};
+
+// A view is one of these with its widget class: it takes place, visibility, enabled state and tooltip from
+// the control, and follows its changes until it is destroyed.
+template <class Widget, class Model>
+class ControlView : public Widget, public View {
+  public:
+    ControlView(Model& control, const ViewContext& context, QWidget* parent)
+        : Widget(parent), control_(control), context_(context) {
+        // What the pointer does on a control is not meant for the background below it.
+        this->setAttribute(Qt::WA_NoMousePropagation);
+        control_.Changed = [this] { Sync(); };
+    }
+    ~ControlView() override { control_.Changed = nullptr; }
+
+    void Sync() override {
+        this->setGeometry(context_.Scale.Pixels(PlaceOf(control_)));
+        this->setEnabled(control_.Enabled);
+        this->setToolTip(QString::fromStdString(control_.ToolTip));
+        this->setVisible(Shown());
+    }
+
+    Model& Control() { return control_; }
+
+  protected:
+    virtual bool Shown() const { return control_.Visible; }
+
+    // Hands an event over. A control without a handler has no such event.
+    void Raise(const std::function<void()>& handler) {
+        if (handler) context_.Gate.Pass(handler);
+    }
+
+    Model& control_;
+    const ViewContext& context_;
+};
+
+// A picture: a card, its back, an ornament.
+class ImageView : public ControlView<QWidget, Image> {
+  public:
+    using ControlView::ControlView;
+
+    void Sync() override;
+    // The view of a picture that this one covers while it is shown.
+    void Covers(ImageView& covered) { covered_.push_back(&covered); }
+    // As a click of the pointer does.
+    void Press() { Raise(control_.Click); }
+    bool Pressable() const { return control_.Click && control_.Enabled; }
+
+  protected:
+    bool Shown() const override;
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+  private:
+    QPixmap Pixmap() const;
+    void Drop(const QPoint& global);
+
+    std::vector<ImageView*> covered_;
+    bool pressed_ = false;
+    QPoint pressedAt_;
+    QLabel* dragged_ = nullptr;  // the card under the pointer, while it is dragged; a child of the window
+};
+
+class LabelView : public ControlView<QLabel, Label> {
+  public:
+    LabelView(Label& label, const ViewContext& context, QWidget* parent);
+    void Sync() override;
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+  private:
+    QRect Room(const QFont& font) const;
+};
+
+class ButtonView : public ControlView<QPushButton, Button> {
+  public:
+    ButtonView(Button& button, const ViewContext& context, QWidget* parent);
+    void Sync() override;
+
+  private:
+    bool hadFocus_ = false;  // when it was disabled
+};
+
+// A frame without border: a plain area.
+class AreaView : public ControlView<QWidget, Frame> {
+  public:
+    using ControlView::ControlView;
+    void Sync() override;
+    void Dropped(Image& source);
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+class FrameView : public ControlView<QGroupBox, Frame> {
+  public:
+    using ControlView::ControlView;
+    void Sync() override;
+
+  protected:
+    void mouseReleaseEvent(QMouseEvent*) override;
+};
+
+class LineView : public ControlView<QWidget, Line> {
+  public:
+    LineView(Line& line, const ViewContext& context, QWidget* parent);
+    void Sync() override;
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+class ToolBarView : public ControlView<QWidget, ToolBar> {
+  public:
+    ToolBarView(ToolBar& bar, const ViewContext& context, QWidget* parent);
+    void Sync() override;
+};
+
+class StatusBarView : public ControlView<QWidget, StatusBar> {
+  public:
+    StatusBarView(StatusBar& bar, const ViewContext& context, QWidget* parent);
+    void Sync() override;
+
+  private:
+    void ShowClock();
+
+    std::vector<QLabel*> panels_;
+    QTimer clock_;
+};
+
+class TabStripView : public ControlView<QTabWidget, TabStrip> {
+  public:
+    TabStripView(TabStrip& strip, const ViewContext& context, QWidget* parent);
+    void Sync() override;
+};
+
+}  // namespace zarpel
