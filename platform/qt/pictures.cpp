@@ -1,6 +1,7 @@
 #include "platform/qt/pictures.h"
 
 #include <QBrush>
+#include <QDir>
 #include <QImageReader>
 #include <QPainter>
 
@@ -11,6 +12,11 @@ namespace {
 
 // No card on any screen is larger. A photograph chosen as card back is made smaller while it is decoded.
 constexpr QSize kLargest(1024, 1024);
+
+QStringList SizesOf(const QString& picture) {
+    return QDir(QStringLiteral(":/"))
+        .entryList({QFileInfo(picture).baseName() + QStringLiteral("-*.png")}, QDir::Files);
+}
 
 QImage Decode(const QString& path) {
     if (!IsRegularFile(path)) return {};
@@ -39,6 +45,12 @@ QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
 }
 
 }  // namespace
+
+QIcon BuiltInIcon(const QString& picture) {
+    QIcon icon;
+    for (const QString& file : SizesOf(picture)) icon.addFile(QStringLiteral(":/") + file);
+    return icon;
+}
 
 bool Pictures::Load(const std::string& path) {
     const QString name = SystemPath(path);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHash>
+#include <QIcon>
 #include <QImage>
 #include <QPixmap>
 #include <QSize>
@@ -9,6 +10,9 @@
 #include <string>
 
 namespace zarpel {
+
+// A built-in picture that was drawn in several sizes: ":/nuevo.png" stands for all files ":/nuevo-<size>.png".
+QIcon BuiltInIcon(const QString& picture);
 
 class Pictures {
   public:

@@ -39,7 +39,7 @@ QtDesktop::QtDesktop(std::string folder) : folder_(std::move(folder)) {
     SpeakSpanish();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(QApplication::style()->standardPalette());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zarpel.png")));
+    QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png")));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
     InstallAccessibility();

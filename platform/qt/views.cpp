@@ -134,19 +134,6 @@ void LineView::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ColorO
 
 // --- Toolbar and status bar ---
 
-namespace {
-
-// A toolbar picture is drawn in several sizes: ":/nuevo.png" stands for ":/nuevo-48.png" and larger ones.
-QIcon BuiltInIcon(const QString& picture) {
-    QIcon icon;
-    for (const char* const size : {"-48.png", "-96.png", "-192.png"}) {
-        icon.addFile(QString(picture).replace(".png", size));
-    }
-    return icon;
-}
-
-}  // namespace
-
 ToolBarView::ToolBarView(ToolBar& bar, const ViewContext& context, QWidget* parent)
     : ControlView(bar, context, parent) {
     for (const ToolButton& button : bar.Buttons) {

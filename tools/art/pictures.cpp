@@ -1,0 +1,158 @@
+#include "tools/art/pictures.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <stdexcept>
+
+#include "tools/art/deck.h"
+
+namespace zarpel {
+
+namespace {
+
+void write(const QString& path, const QImage& picture, const char* format, int quality) {
+    QImageWriter writer(path, format);
+    writer.setQuality(quality);
+    if (!writer.write(picture)) throw std::runtime_error((path + ": " + writer.errorString()).toStdString());
+}
+
+void writePng(const QString& path, const QImage& picture) { write(path, picture, "png", 0); }
+
+// JPEG has no transparency: what nothing covers is white.
+void writeJpeg(const QString& path, const QImage& picture) {
+    QImage opaque(picture.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, picture);
+    write(path, opaque, "jpg", 92);
+}
+
+struct Icon {
+    const char* name;
+    std::initializer_list<int> sizes;
+};
+
+const Icon kIcons[] = {
+    {"nuevo", {48, 96, 192}},
+    {"run", {48, 96, 192}},
+    {"salir", {48, 96, 192}},
+    {"acerca", {48, 96, 192}},
+    {"zarpel", {16, 22, 24, 32, 48, 64, 128, 256, 512}},
+};
+
+void drawIcons(const QString& from, const QString& to) {
+    for (const auto& icon : kIcons) {
+        const auto svg = readAll(from + '/' + icon.name + ".svg");
+        for (const int size : icon.sizes) {
+            writePng(QString("%1/%2-%3.png").arg(to, icon.name).arg(size), draw(svg, {size, size}));
+        }
+    }
+}
+
+int distance(QRgb a, QRgb b) {
+    const int red = qRed(a) - qRed(b), green = qGreen(a) - qGreen(b), blue = qBlue(a) - qBlue(b);
+    const int alpha = qAlpha(a) - qAlpha(b);
+    return red * red + green * green + blue * blue + alpha * alpha;
+}
+
+}  // namespace
+
+QImage draw(const QByteArray& svg, QSize pixels) {
+    QSvgRenderer renderer(svg);
+    if (!renderer.isValid()) throw std::runtime_error("a picture is not valid SVG");
+    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    renderer.render(&painter, QRectF(QPointF(0, 0), pixels));
+    return picture;
+}
+
+QImage withPalette(const QImage& picture) {
+    // The drawings have few flat colours and many mixtures along their edges: the 256 most frequent colours
+    // (told apart to 4 bits a channel) hold all of the former, and are near enough to the latter.
+    const auto source = picture.convertToFormat(QImage::Format_ARGB32);
+    const auto coarse = [](QRgb colour) { return qAlpha(colour) == 0 ? 0 : colour & 0xF0F0F0F0; };
+    QHash<QRgb, QHash<QRgb, int>> counts;
+    QHash<QRgb, int> totals;
+    for (int y = 0; y < source.height(); ++y) {
+        for (int x = 0; x < source.width(); ++x) {
+            const auto colour = source.pixel(x, y);
+            ++counts[coarse(colour)][colour];
+            ++totals[coarse(colour)];
+        }
+    }
+    QList<QRgb> boxes = totals.keys();
+    std::sort(boxes.begin(), boxes.end(),
+              [&](QRgb a, QRgb b) { return totals[a] != totals[b] ? totals[a] > totals[b] : a < b; });
+    boxes.resize(std::min<qsizetype>(boxes.size(), 256));
+    QList<QRgb> palette;
+    for (const auto box : boxes) {
+        const auto& shades = counts[box];
+        QRgb best = shades.begin().key();
+        for (auto shade = shades.begin(); shade != shades.end(); ++shade) {
+            const bool more =
+                shade.value() > shades[best] || (shade.value() == shades[best] && shade.key() < best);
+            if (more) best = shade.key();
+        }
+        palette << best;
+    }
+    QHash<QRgb, uchar> nearest;
+    QImage result(source.size(), QImage::Format_Indexed8);
+    result.setColorTable(palette);
+    for (int y = 0; y < source.height(); ++y) {
+        for (int x = 0; x < source.width(); ++x) {
+            const auto colour = source.pixel(x, y);
+            auto known = nearest.constFind(colour);
+            if (known == nearest.cend()) {
+                const auto closest = std::min_element(palette.cbegin(), palette.cend(), [&](QRgb a, QRgb b) {
+                    return distance(a, colour) < distance(b, colour);
+                });
+                known = nearest.insert(colour, static_cast<uchar>(closest - palette.cbegin()));
+            }
+            result.scanLine(y)[x] = *known;
+        }
+    }
+    return result;
+}
+
+QByteArray cardList(const QStringList& names) {
+    QByteArray list;
+    for (const auto& name : names) {
+        const auto text = name.toLatin1();
+        if (text.size() > 14) throw std::runtime_error(name.toStdString() + ": more than 14 bytes");
+        list += QByteArray(1, static_cast<char>(text.size())) + '\0' + text.leftJustified(14, '\0');
+    }
+    return list;
+}
+
+void drawAll(const QString& dataFolder, const QString& outFolder) {
+    const QDir out(outFolder);
+    for (const auto* folder : {"app", "builtin", "ayuda"}) {
+        if (!out.mkpath(folder))
+            throw std::runtime_error((outFolder + ": cannot make the folder").toStdString());
+    }
+    const Deck deck(dataFolder);
+    QStringList names;
+    for (int index = 1; index <= kCards; ++index) {
+        const auto svg = deck.card(index);
+        const auto name = deck.fileName(index);
+        writePng(out.filePath("app/" + name), withPalette(draw(svg, kCardPixels)));
+        writePng(out.filePath("ayuda/" + name), draw(svg, kHelpPixels));
+        names << name;
+    }
+    QFile list(out.filePath("app/naipe.dat"));
+    const auto records = cardList(names);
+    if (!list.open(QIODevice::WriteOnly) || list.write(records) != records.size()) {
+        throw std::runtime_error(list.fileName().toStdString() + ": cannot be written");
+    }
+    const auto back = deck.back();
+    writeJpeg(out.filePath("app/dibujo.jpg"), draw(back, kCardPixels));
+    writeJpeg(out.filePath("builtin/dorso.jpg"), draw(back, kBuiltinBackPixels));
+    writePng(out.filePath("ayuda/dorso.png"), draw(back, kHelpPixels));
+    drawIcons(dataFolder + "/iconos", out.filePath("builtin"));
+}
+
+}  // namespace zarpel

@@ -1,0 +1,32 @@
+// Draws every picture of the game from its vector sources and writes them below one folder:
+//
+// app/      what lies beside the executable: the 40 cards, "dibujo.jpg" (the card back) and "naipe.dat"
+// builtin/  what is compiled into the game: "dorso.jpg" (the back it starts with), the toolbar's and the
+// About
+//           window's pictures and the program's icon
+// ayuda/    the cards and the back in small, for the help's pages
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace zarpel {
+
+// Pixels of a card picture: a hand card of a 3840 x 2160 table is 364 x 503, a table card 300 x 469.
+constexpr QSize kCardPixels{364, 534};
+constexpr QSize kHelpPixels{80, 118};
+constexpr QSize kBuiltinBackPixels{95, 150};
+
+// Writes all of it; folders are made as needed. Throws std::runtime_error when a source or a file fails.
+void drawAll(const QString& dataFolder, const QString& outFolder);
+
+// An SVG document drawn over the whole of a transparent picture.
+QImage draw(const QByteArray& svg, QSize pixels);
+
+// The same picture with at most 256 colours: a third of the time to load.
+QImage withPalette(const QImage& picture);
+
+// The card list file: 40 records of 16 bytes, a 2-byte little-endian length, the name, zeros.
+QByteArray cardList(const QStringList& names);
+
+}  // namespace zarpel
