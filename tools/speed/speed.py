@@ -1,0 +1,156 @@
+#!/usr/bin/python3
+"""Measures the game side by side with an empty window of the same toolkit.
+
+    xvfb-run -s '-screen 0 1920x1080x24' tools/speed/speed.py build/release/tools/speed/empty_window \
+        build/zarpel/zarpel [pairs]
+
+Starts each program in turn on the X display at hand (a window manager is started when openbox is there) and prints the
+medians: time from the process's start to its first painted window, resident memory a second later, processor time
+while nobody acts, and the time from a click on a card to the raised card on the screen. The game's start is the whole
+table: its first paint has all cards in it.
+"""
+import ctypes
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import time
+
+xlib = ctypes.CDLL("libX11.so.6")
+xtest = ctypes.CDLL("libXtst.so.6")
+xlib.XOpenDisplay.restype = ctypes.c_void_p
+xlib.XDefaultRootWindow.restype = ctypes.c_ulong
+xlib.XDefaultRootWindow.argtypes = [ctypes.c_void_p]
+xlib.XGetImage.restype = ctypes.c_void_p
+xlib.XGetImage.argtypes = [ctypes.c_void_p, ctypes.c_ulong] + [ctypes.c_int] * 2 + [ctypes.c_uint] * 2 + [
+    ctypes.c_ulong, ctypes.c_int]
+xlib.XGetPixel.restype = ctypes.c_ulong
+xlib.XGetPixel.argtypes = [ctypes.c_void_p, ctypes.c_int, ctypes.c_int]
+xlib.XDestroyImage.argtypes = [ctypes.c_void_p]
+xlib.XSync.argtypes = [ctypes.c_void_p, ctypes.c_int]
+xlib.XDisplayWidth.argtypes = xlib.XDisplayHeight.argtypes = [ctypes.c_void_p, ctypes.c_int]
+xtest.XTestFakeMotionEvent.argtypes = [ctypes.c_void_p] + [ctypes.c_int] * 3 + [ctypes.c_ulong]
+xtest.XTestFakeButtonEvent.argtypes = [ctypes.c_void_p, ctypes.c_uint, ctypes.c_int, ctypes.c_ulong]
+
+ALL_PLANES, Z_PIXMAP = 0xFFFFFFFF, 2
+DEADLINE = 20  # seconds
+
+
+class Screen:
+    def __init__(self):
+        self.display = xlib.XOpenDisplay(None)
+        if not self.display:
+            sys.exit("speed.py: no X display; run it under xvfb-run")
+        self.root = xlib.XDefaultRootWindow(self.display)
+        self.width = xlib.XDisplayWidth(self.display, 0)
+        self.height = xlib.XDisplayHeight(self.display, 0)
+
+    def pixel(self, x, y):
+        image = xlib.XGetImage(self.display, self.root, x, y, 1, 1, ALL_PLANES, Z_PIXMAP)
+        value = xlib.XGetPixel(image, 0, 0)
+        xlib.XDestroyImage(image)
+        return value
+
+    def wait(self, x, y, unlike):
+        """Seconds until the pixel shows something else than `unlike`."""
+        start = time.perf_counter()
+        while self.pixel(x, y) == unlike:
+            if time.perf_counter() - start > DEADLINE:
+                sys.exit("speed.py: nothing was painted")
+        return time.perf_counter() - start
+
+    def point(self, x, y):
+        xtest.XTestFakeMotionEvent(self.display, -1, x, y, 0)
+        xlib.XSync(self.display, 0)
+
+    def click(self):
+        for down in (1, 0):
+            xtest.XTestFakeButtonEvent(self.display, 1, down, 0)
+        xlib.XSync(self.display, 0)
+
+
+def resident_kb(pid):
+    with open(f"/proc/{pid}/status") as status:
+        return next(int(line.split()[1]) for line in status if line.startswith("VmRSS"))
+
+
+def processor_s(pid):
+    with open(f"/proc/{pid}/stat") as stat:
+        fields = stat.read().rpartition(")")[2].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def start(screen, program, at):
+    """Starts a program; gives it and the seconds until the pixel `at` was painted."""
+    empty = screen.pixel(*at)
+    process = subprocess.Popen([program], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    return process, screen.wait(*at, empty), empty
+
+
+def stop(screen, process, at, empty):
+    process.kill()
+    process.wait()
+    while screen.pixel(*at) != empty:
+        time.sleep(0.01)
+
+
+def measure(screen, program, at, times):
+    seconds, memory = [], []
+    for _ in range(times):
+        process, painted, empty = start(screen, program, at)
+        time.sleep(1)
+        seconds.append(painted)
+        memory.append(resident_kb(process.pid))
+        stop(screen, process, at, empty)
+    return statistics.median(seconds) * 1000, statistics.median(memory) / 1024
+
+
+def measure_play(screen, program, at, card, above):
+    """Processor seconds in five idle ones, and the milliseconds from a click on a card until it is raised."""
+    process, _, empty = start(screen, program, at)
+    time.sleep(4)  # the computer may have the first move
+    before = processor_s(process.pid)
+    time.sleep(5)
+    idle = processor_s(process.pid) - before
+    screen.point(*card)
+    time.sleep(0.3)
+    clicks = []
+    for _ in range(20):
+        shown = screen.pixel(*above)
+        screen.click()
+        clicks.append(screen.wait(*above, shown) * 1000)
+        time.sleep(0.7)  # no double clicks
+    stop(screen, process, at, empty)
+    return idle, statistics.median(clicks), max(clicks)
+
+
+def main():
+    empty_program, game = sys.argv[1:3]
+    pairs = int(sys.argv[3]) if len(sys.argv) > 3 else 20
+    manager = shutil.which("openbox")
+    if manager:
+        subprocess.Popen([manager], stderr=subprocess.DEVNULL)
+        time.sleep(1)
+    screen = Screen()
+    # Places of the table in the client area, in twips, as the layout has them; the title and menu bar are above it.
+    scale = min(screen.width / 12000, (screen.height - 60) / 8400)
+    to_screen = lambda x, y: (int(x * scale), int(screen.height - (8400 - y) * scale))
+    table = to_screen(1080, 4300)  # inside the first card on the table
+    card, above = to_screen(4200, 7400), to_screen(4200, 6180)  # the first card of the hand, and where it rises to
+    results = {empty_program: ([], []), game: ([], [])}
+    for _ in range(pairs):
+        for program, (seconds, memory) in results.items():
+            painted, resident = measure(screen, program, table, 1)
+            seconds.append(painted)
+            memory.append(resident)
+    medians = [(statistics.median(s), statistics.median(m)) for s, m in results.values()]
+    (empty_ms, empty_mb), (game_ms, game_mb) = medians
+    print(f"start to first paint: empty {empty_ms:.1f} ms, game {game_ms:.1f} ms, ratio {game_ms / empty_ms:.2f}")
+    print(f"resident memory: empty {empty_mb:.1f} MB, game {game_mb:.1f} MB, ratio {game_mb / empty_mb:.2f}")
+    idle, click, slowest = measure_play(screen, game, table, card, above)
+    print(f"idle: {idle:.2f} s of processor time in 5 s")
+    print(f"click to screen: median {click:.1f} ms, slowest {slowest:.1f} ms of 20")
+
+
+main()
