@@ -117,14 +117,11 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
     AddMenus();
     client_ = new ClientArea(form, context, this);
     layout->addWidget(client_, 1);
-    Builder builder(context, views_);
-    builder.Build(form, client_);
-    builder.JoinCovers();
     form.Changed = [this] {
         setWindowTitle(QString::fromStdString(form_.Caption));
         client_->update();
     };
-    Sync();
+    form.Refresh();
 }
 
 FormWindow::~FormWindow() { form_.Changed = nullptr; }
@@ -146,9 +143,20 @@ void FormWindow::AddMenus() {
     }
 }
 
+void FormWindow::Fill() {
+    Builder builder(context_, views_);
+    builder.Build(form_, client_);
+    builder.JoinCovers();
+}
+
 void FormWindow::Sync() {
     form_.Refresh();
     for (View* const view : views_) view->Sync();
+}
+
+void FormWindow::FocusFirst() {
+    if (QWidget* const button = ButtonOf(this, &Button::Default)) return button->setFocus();
+    focusNextChild();
 }
 
 void FormWindow::PlaceDialog() {
@@ -178,12 +186,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // Keys reach the native window first; it exists only once the widget is shown.
-void FormWindow::showEvent(QShowEvent*) {
-    windowHandle()->installEventFilter(this);
-    if (focusWidget()) return;
-    if (QWidget* const button = ButtonOf(this, &Button::Default)) return button->setFocus();
-    focusNextChild();
-}
+void FormWindow::showEvent(QShowEvent*) { windowHandle()->installEventFilter(this); }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();

@@ -31,14 +31,19 @@ class ClientArea : public QWidget {
 
 class FormWindow : public QWidget {
   public:
-    // Builds the widgets; shows nothing yet. `owner` is the window above which a dialog stands, or null.
+    // An empty window, not shown yet. `owner` is the window above which a dialog stands, or null.
     FormWindow(Form& form, const ViewContext& context, QWidget* owner);
     ~FormWindow() override;
 
+    // Makes the widgets of the form's controls. The window can be on its way to the screen meanwhile.
+    void Fill();
     // Brings every widget into step with its control; needed when the scale has changed.
     void Sync();
     // Gives a dialog the size of its form, and its place.
     void PlaceDialog();
+
+    // Gives the focus to the default button, or else to the first control that takes it.
+    void FocusFirst();
 
     QSize ClientSize() const { return client_->size(); }
 

@@ -1,7 +1,6 @@
 // The game on the Qt desktop.
 #include <QApplication>
 #include <QDir>
-#include <QTimer>
 
 #include "platform/qt/qt_desktop.h"
 #include "ui/playing.h"
@@ -11,7 +10,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     zarpel::QtDesktop desktop(QApplication::applicationDirPath().toStdString());
     zarpel::Playing playing(desktop);
-    // Inside the event loop, so that the start is an event like any other: what comes meanwhile waits.
-    QTimer::singleShot(0, &application, [&] { desktop.Pass(playing, [&playing] { playing.Load(); }); });
+    // The start is an event like any other: what comes meanwhile waits.
+    desktop.Pass(playing, [&playing] { playing.Load(); });
     return QApplication::exec();
 }

@@ -18,16 +18,24 @@ QStringList SizesOf(const QString& picture) {
         .entryList({QFileInfo(picture).baseName() + QStringLiteral("-*.png")}, QDir::Files);
 }
 
-QImage Decode(const QString& path) {
-    if (!IsRegularFile(path)) return {};
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
+QImage Decode(QImageReader&& reader) {
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (size.width() > kLargest.width() || size.height() > kLargest.height()) {
         reader.setScaledSize(size.scaled(kLargest, Qt::KeepAspectRatio));
     }
     return reader.read();
+}
+
+// A file is taken for what its name says, and only if it is not that, for what it holds: looking into it
+// loads every picture format that the system has, which takes longer than all the cards.
+QImage Decode(const QString& path) {
+    if (!IsRegularFile(path)) return {};
+    QImage picture = Decode(QImageReader(path, QFileInfo(path).suffix().toLatin1()));
+    if (!picture.isNull()) return picture;
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    return Decode(std::move(reader));
 }
 
 QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {

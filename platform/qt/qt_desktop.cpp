@@ -39,7 +39,6 @@ QtDesktop::QtDesktop(std::string folder) : folder_(std::move(folder)) {
     SpeakSpanish();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(QApplication::style()->standardPalette());
-    QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png")));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
     InstallAccessibility();
@@ -73,7 +72,8 @@ void QtDesktop::Show(Form& form) {
     EventGate& gate = GateOf(form);
     ShowMaximised(Open(form, [&gate] {
         gate.Clear();
-        gate.Idle = [] { QApplication::quit(); };
+        // Also when this happens during the start, before the event loop runs.
+        gate.Idle = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
     }));
 }
 
@@ -83,6 +83,7 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     window.setUpdatesEnabled(false);
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
+    window.Fill();
     const QDeadlineTimer deadline(kMaximiseMs);
     while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
@@ -93,6 +94,10 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     UseScale(window.ClientSize());  // the menu bar has taken its new height
     window.Sync();
     window.setUpdatesEnabled(true);
+    window.FocusFirst();
+    // The table does not wait for its icon, which is sent to the window manager in all its sizes.
+    QTimer::singleShot(0, &window,
+                       [] { QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png"))); });
 }
 
 void QtDesktop::UseScale(const QSize& client) {
@@ -104,8 +109,10 @@ void QtDesktop::ShowModal(Form& form) {
     QEventLoop loop;
     FormWindow& window = Open(form, [&loop] { loop.quit(); });
     window.setWindowModality(Qt::ApplicationModal);
+    window.Fill();
     window.PlaceDialog();
     window.show();
+    window.FocusFirst();
     loop.exec();
     std::erase_if(opened_, [&form](const Opened& opened) { return opened.Shown == &form; });
     contexts_.erase(&form);
