@@ -16,6 +16,9 @@
 namespace zarpel {
 namespace {
 
+// How long the window manager may go on placing a new window.
+constexpr int kSettleMs = 1000;
+
 constexpr Qt::WindowFlags kDialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                          Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
 
@@ -114,14 +117,12 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    AddMenus();
     client_ = new ClientArea(form, context, this);
     layout->addWidget(client_, 1);
     form.Changed = [this] {
         setWindowTitle(QString::fromStdString(form_.Caption));
         client_->update();
     };
-    form.Refresh();
 }
 
 FormWindow::~FormWindow() { form_.Changed = nullptr; }
@@ -144,6 +145,8 @@ void FormWindow::AddMenus() {
 }
 
 void FormWindow::Fill() {
+    form_.Refresh();
+    AddMenus();
     Builder builder(context_, views_);
     builder.Build(form_, client_);
     builder.JoinCovers();
@@ -174,6 +177,7 @@ void FormWindow::PlaceDialog() {
 // Key preview: the window sees a key before the focused control, which gets it afterwards all the same. A key
 // that repeats because it is held down counts once, so that it cannot fill the computer's pause with moves.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Expose) FitNow();
     if (event->type() == QEvent::KeyPress && !QApplication::activePopupWidget()) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         const int code = KeyCodeOf(key);
@@ -185,8 +189,27 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+QSize FormWindow::ClientSize() const {
+    layout()->activate();
+    return client_->size();
+}
+
+void FormWindow::FitNow() {
+    if (!Fit || !windowHandle()->isExposed() || settled_.hasExpired()) return;
+    if (settled_.isForever()) settled_.setRemainingTime(kSettleMs);
+    Fit();
+    setUpdatesEnabled(true);
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    if (windowHandle()) FitNow();
+}
+
 // Keys reach the native window first; it exists only once the widget is shown.
-void FormWindow::showEvent(QShowEvent*) { windowHandle()->installEventFilter(this); }
+void FormWindow::showEvent(QShowEvent*) {
+    if (Fit && settled_.isForever()) setUpdatesEnabled(false);
+    windowHandle()->installEventFilter(this);
+}
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();

@@ -1,7 +1,9 @@
 // The window on the screen that shows one form of the game.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -37,6 +39,10 @@ class FormWindow : public QWidget {
 
     // Makes the widgets of the form's controls. The window can be on its way to the screen meanwhile.
     void Fill();
+    // Called when the room that the window manager gives the window becomes known: when the window reaches
+    // the screen, and at each change within the next second. Nothing is painted before the first call.
+    std::function<void()> Fit;
+
     // Brings every widget into step with its control; needed when the scale has changed.
     void Sync();
     // Gives a dialog the size of its form, and its place.
@@ -45,21 +51,25 @@ class FormWindow : public QWidget {
     // Gives the focus to the default button, or else to the first control that takes it.
     void FocusFirst();
 
-    QSize ClientSize() const { return client_->size(); }
+    // Size of the client area, with the menu bar in its present font.
+    QSize ClientSize() const;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
     void closeEvent(QCloseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
   private:
     void AddMenus();
+    void FitNow();
 
     Form& form_;
     const ViewContext& context_;
     QMenuBar* menuBar_ = nullptr;  // forms without menus have none
     ClientArea* client_;
+    QDeadlineTimer settled_{QDeadlineTimer::Forever};
     std::vector<View*> views_;  // children of the window, which owns them
 };
 

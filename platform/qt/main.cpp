@@ -7,6 +7,7 @@
 
 int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Zarpel"));
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // asking the desktop for one delays the start
     const QApplication application(argc, argv);
     zarpel::QtDesktop desktop(QApplication::applicationDirPath().toStdString());
     zarpel::Playing playing(desktop);

@@ -39,7 +39,10 @@ QImage Decode(const QString& path) {
 }
 
 QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
-    const QImage stretched = picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // Smooth scaling is several times faster in this format than in the compact one that pictures are kept
+    // in.
+    const QImage stretched = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                                 .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (corner <= 0) return QPixmap::fromImage(stretched);
     QImage rounded(pixels, QImage::Format_ARGB32_Premultiplied);
     rounded.fill(Qt::transparent);

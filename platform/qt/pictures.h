@@ -11,7 +11,8 @@
 
 namespace zarpel {
 
-// A built-in picture that was drawn in several sizes: ":/nuevo.png" stands for all files ":/nuevo-<size>.png".
+// A built-in picture that was drawn in several sizes: ":/nuevo.png" stands for all files
+// ":/nuevo-<size>.png".
 QIcon BuiltInIcon(const QString& picture);
 
 class Pictures {

@@ -1,7 +1,6 @@
 #include "platform/qt/qt_desktop.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QLocale>
 #include <QProcess>
@@ -24,8 +23,8 @@
 namespace zarpel {
 namespace {
 
-// How long the window manager may take to maximise the window before it is drawn as it is.
-constexpr int kMaximiseMs = 1000;
+// When the window's icon is sent, after the start.
+constexpr int kIconMs = 300;
 
 void SpeakSpanish() {
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
@@ -77,26 +76,20 @@ void QtDesktop::Show(Form& form) {
     }));
 }
 
-// The scale depends on the room that the maximised window really has, under its title and menu bar. The table
-// is drawn when that is known, at once in its final size.
+// The scale depends on the room that the maximised window really has, under its title and menu bar. The
+// table's widgets are made, and the game goes on to deal, while the window is on its way.
 void QtDesktop::ShowMaximised(FormWindow& window) {
-    window.setUpdatesEnabled(false);
+    window.Fit = [this, &window] {
+        UseScale(window.ClientSize());
+        UseScale(window.ClientSize());  // the menu bar has the font of the first
+        window.Sync();
+    };
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     window.Fill();
-    const QDeadlineTimer deadline(kMaximiseMs);
-    while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
-        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
-    }
-    UseScale(window.ClientSize());
-    window.Sync();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    UseScale(window.ClientSize());  // the menu bar has taken its new height
-    window.Sync();
-    window.setUpdatesEnabled(true);
     window.FocusFirst();
     // The table does not wait for its icon, which is sent to the window manager in all its sizes.
-    QTimer::singleShot(0, &window,
+    QTimer::singleShot(kIconMs, &window,
                        [] { QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png"))); });
 }
 
