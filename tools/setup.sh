@@ -1,0 +1,34 @@
+# Steps shared by run, test and .ci/run; sourced by them, from the project's folder. Each step that is done already is
+# skipped.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libchm-dev fp-utils libgtest-dev)
+# The fonts that the windows' fonts are mapped to: a bare system has none.
+game_packages=(fonts-liberation fonts-dejavu-core fonts-urw-base35)
+test_packages=(xvfb openbox xdotool dbus at-spi2-core python3-pyatspi xauth)
+check_packages=(git clang clang-format clang-tidy libclang-rt-14-dev)
+
+# Installs those of the named packages that are missing.
+need() {
+    local missing=()
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    if ! command -v apt-get >/dev/null; then
+        echo "This system has no apt. Install what these Debian 12 packages hold, then try again:" >&2
+        echo "  ${missing[*]}" >&2
+        exit 1
+    fi
+    echo "Installing: ${missing[*]}"
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get -q update
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+}
+
+# Configures and builds a CMake preset.
+build() {
+    [ -f "build/$1/build.ninja" ] || cmake --preset "$1"
+    cmake --build "build/$1"
+}
