@@ -18,6 +18,7 @@ namespace zarpel {
 
 constexpr int kLugaresMesa = 8;
 constexpr int kLugaresMano = 3;
+constexpr int kPosiciones = kLugaresMesa + 2 * kLugaresMano;  // position codes are 1 to this
 constexpr int kSumaDeLevante = 15;
 
 // The count of a deal: rows cards, oros, sevens, velo and zarpels; columns computer and human.

@@ -29,6 +29,8 @@ void Playing::ConnectEvents() {
     Frame1.DragDrop = [this](Image& source) { Frame1_DragDrop(source); };
     Toolbar1.ButtonClick = [this](const std::string& key) { Toolbar1_ButtonClick(key); };
     Nuevomnu.Click = [this] { Nuevomnu_Click(); };
+    abrirmnu.Click = [this] { abrirmnu_Click(); };
+    guardarmnu.Click = [this] { guardarmnu_Click(); };
     salir.Click = [this] { salir_Click(); };
 }
 

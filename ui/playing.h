@@ -6,6 +6,7 @@
 
 #include "engine/mesa.h"
 #include "platform/form.h"
+#include "storage/fields.h"
 
 namespace zarpel {
 
@@ -51,11 +52,22 @@ class Playing : public Form, public Mesa {
 
     // --- Commands (playing_commands.cpp) ---
     void Nuevomnu_Click();
+    void abrirmnu_Click();
+    void guardarmnu_Click();
     void salir_Click();
     void Toolbar1_ButtonClick(const std::string& key);
 
     // --- Files (playing_files.cpp) ---
+
+    // Writes the five preferences to "lastprop.dat" in the application folder; says so when that fails.
+    void SaveProperty();
+    // Each preference takes effect as soon as it is read; the card back at the next match.
     void LoadProperty(const std::string& fichero) override;
+    // Writes the match to the file and gives `filename` back; says so when that fails.
+    std::string GuardaJuego(const std::string& filename);
+    // Ends the match on the table and continues the one in the file. A missing or damaged file is reported,
+    // what could be read of it lies over a fresh match, and the command "Abrir" runs again.
+    void CargarJuego(const std::string& filename);
 
   private:
     void Form_Load();
@@ -63,6 +75,8 @@ class Playing : public Form, public Mesa {
     void DesignSlots();
     void DesignCommands();
     void ConnectEvents();
+    Fields Preferencias();
+    bool RedibujaCartas();
     bool Confirma(const std::string& texto, Icon icono);
 };
 

@@ -14,6 +14,15 @@ bool Playing::Confirma(const std::string& texto, Icon icono) {
 
 void Playing::Nuevomnu_Click() { ResetGame(); }
 
+void Playing::abrirmnu_Click() {
+    if (!Confirma("Esta accion terminara con el juego actual, continuar?", Icon::Exclamation)) return;
+    if (desktop_.ShowOpen(CommonDialog)) CargarJuego(CommonDialog.FileName);
+}
+
+void Playing::guardarmnu_Click() {
+    if (desktop_.ShowSave(CommonDialog)) GuardaJuego(CommonDialog.FileName);
+}
+
 void Playing::salir_Click() {
     desktop_.Unload(*this);
     desktop_.Show({.Text = "CHAU!"});

@@ -4,12 +4,6 @@
 #include "ui/resultadosfrm.h"
 
 namespace zarpel {
-namespace {
-
-constexpr int kPosiciones = 14;
-
-}  // namespace
-
 bool Playing::UpdateImagenDesktop(int i, const std::string& Imagen, int subind) {
     if (Imagen.empty() || i < 1 || i > kPosiciones) return true;
     if (!desktop_.LoadPicture(Imagen)) return false;

@@ -1,8 +1,54 @@
 // The files that the main window reads and writes.
+#include "engine/zarpelfunc.h"
+#include "storage/layouts.h"
 #include "ui/playing.h"
 
 namespace zarpel {
 
-void Playing::LoadProperty(const std::string& /*fichero*/) {}
+Fields Playing::Preferencias() {
+    return PreferenceFields({Toolbar1.Tag, BackColor, Frame1.BackColor, fondop1img[0].Tag});
+}
+
+void Playing::SaveProperty() { SaveFile(desktop_, desktop_.Folder() + "\\lastprop.dat", Preferencias()); }
+
+void Playing::LoadProperty(const std::string& fichero) {
+    if (LoadFile(desktop_, fichero, Preferencias())) return;
+    desktop_.Show({.Text = "El archivo de propiedades no existe o esta dañado",
+                   .Icon = Icon::Critical,
+                   .Title = "Hubo un error"});
+}
+
+std::string Playing::GuardaJuego(const std::string& filename) {
+    SaveFile(desktop_, filename, MatchFields(*this));
+    return filename;
+}
+
+void Playing::CargarJuego(const std::string& filename) {
+    Load();
+    if (LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas()) {
+        namelbl.Caption = Naipes->Nombrejugador();
+        Label2.Caption = Naipes->Nombrejugador();
+        MuestraVentana();
+    } else {
+        desktop_.Show(
+            {.Text = "El archivo no existe o esta dañado", .Icon = Icon::Critical, .Title = "Hubo un Error"});
+        abrirmnu_Click();
+    }
+    // A saved match leaves the move to the player. One changed by hand can leave no move to make.
+    if (!TieneCartas(clase::kHumano) || Bloqueado(clase::kHumano)) DecideTurno();
+}
+
+// Loads the picture of the card that each place names, whether the place is shown or not. False at the first
+// place that names no card, or whose picture cannot be loaded. A hidden place with an empty Tag has not held
+// a card since the window was made: there is nothing to draw.
+bool Playing::RedibujaCartas() {
+    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
+        const Slot slot = SlotDePosicion(codigo);
+        if (slot.Imagen.Tag.get().empty() && !slot.Ocupado()) continue;
+        const int carta = slot.Carta();
+        if (carta == 0 || !UpdateImagenDesktop(codigo, Naipes->Mazo_Imagen(carta), carta)) return false;
+    }
+    return true;
+}
 
 }  // namespace zarpel
