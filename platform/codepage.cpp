@@ -44,6 +44,9 @@ void AppendUtf8(std::string& text, std::uint32_t character) {
     text += tail(character);
 }
 
+// The lowest character that needs a form of so many bytes. A longer form than needed is not UTF-8.
+constexpr std::array<std::uint32_t, 4> kLowest = {0, 0, 0x80, 0x800};
+
 // Takes the next character off `text`. Nothing for a malformed one, or one of four bytes, which the code page
 // lacks.
 std::optional<std::uint32_t> TakeCharacter(std::string_view& text) {
@@ -56,6 +59,7 @@ std::optional<std::uint32_t> TakeCharacter(std::string_view& text) {
         if ((next & 0xC0) != 0x80) return std::nullopt;
         character = character << 6 | (next & 0x3FU);
     }
+    if (character < kLowest.at(length)) return std::nullopt;
     text.remove_prefix(length);
     return character;
 }
