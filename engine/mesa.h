@@ -136,6 +136,7 @@ class Mesa {
     void JuegaCpu();
     bool ManosVacias();
     void DaCarta(int codigo, const std::string& aquien);
+    bool MuestraCarta(int codigo, int carta);
     void OcultaSinRepartir(int primera, int ultima);
     void Pasa();
     void AnulaReparto();

@@ -138,12 +138,20 @@ void Mesa::SeReparte() {
 
 void Mesa::DaCarta(int codigo, const std::string& aquien) {
     const int carta = SacaCarta(desktop_);
-    const std::string& imagen = Naipes->Mazo_Imagen(carta);
     Naipes->aMazo_Duenio(carta, aquien);
-    if (!UpdateImagenDesktop(codigo, imagen, carta)) {
-        ErrorGrave(desktop_, "No se puede cargar la imagen " + imagen);
+    if (!MuestraCarta(codigo, carta)) {
+        // A saved match names the pictures where they were on the day it was saved.
+        Naipes->aMazo_Imagen(carta, desktop_.Folder() + "\\" + Naipes->LoadImage(carta));
+        if (!MuestraCarta(codigo, carta)) {
+            ErrorGrave(desktop_, "No se puede cargar la imagen " + Naipes->Mazo_Imagen(carta));
+        }
     }
     Naipes->aRepartidas(static_cast<std::int16_t>(Naipes->Repartidas() + 1));
+}
+
+bool Mesa::MuestraCarta(int codigo, int carta) {
+    const std::string& imagen = Naipes->Mazo_Imagen(carta);
+    return !imagen.empty() && UpdateImagenDesktop(codigo, imagen, carta);
 }
 
 void Mesa::OcultaSinRepartir(int primera, int ultima) {
