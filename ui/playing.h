@@ -77,6 +77,7 @@ class Playing : public Form, public Mesa {
     void ConnectEvents();
     Fields Preferencias();
     bool RedibujaCartas();
+    void TapaCartasCpu();
     bool Confirma(const std::string& texto, Icon icono);
 };
 

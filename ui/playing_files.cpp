@@ -28,6 +28,7 @@ void Playing::CargarJuego(const std::string& filename) {
     if (LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas()) {
         namelbl.Caption = Naipes->Nombrejugador();
         Label2.Caption = Naipes->Nombrejugador();
+        TapaCartasCpu();
         MuestraVentana();
     } else {
         desktop_.Show(
@@ -36,6 +37,14 @@ void Playing::CargarJuego(const std::string& filename) {
     }
     // A saved match leaves the move to the player. One changed by hand can leave no move to make.
     if (!TieneCartas(clase::kHumano) || Bloqueado(clase::kHumano)) DecideTurno();
+}
+
+// In the fresh match the computer may have played a card of its hand, whose back is gone. No back is hidden
+// here: the next tidying does that.
+void Playing::TapaCartasCpu() {
+    for (std::size_t i = 0; i < fondop1img.size(); ++i) {
+        if (cartap1img.at(i).Visible) fondop1img.at(i).Visible = true;
+    }
 }
 
 // Loads the picture of the card that each place names, whether the place is shown or not. False at the first
