@@ -26,6 +26,9 @@ class ScriptedDesktop : public Desktop {
     // With a full installation in `Files`: card list, card pictures, card back, both preference files.
     explicit ScriptedDesktop(unsigned seed = 1);
 
+    // From here on the draws are those of this seed.
+    void Seed(unsigned seed) { generator_.seed(seed); }
+
     // --- Prepared by the test ---
     std::map<std::string, std::string>
         Files;                       // by full path; a picture is any file whose name ends in .png or .jpg
