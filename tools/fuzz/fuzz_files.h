@@ -1,0 +1,33 @@
+// What the fuzz programs of the game's files share.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "tests/support/random_player.h"
+#include "tests/support/scripted_desktop.h"
+
+namespace zarpel {
+
+inline std::string BytesOf(const std::uint8_t* data, std::size_t size) {
+    return {reinterpret_cast<const char*>(data), size};
+}
+
+// Stops the program, so that the fuzzer keeps the input.
+inline void Require(bool condition) {
+    if (!condition) std::abort();
+}
+
+// Plays on with the same moves for every input. There must always be a move.
+inline void PlayOn(Playing& window) {
+    constexpr int kActs = 60;
+    RandomPlayer player(window, kActs);
+    for (int i = 0; i < kActs; ++i) {
+        Require(CanAct(window));
+        player.Act();
+    }
+}
+
+}  // namespace zarpel
