@@ -1,6 +1,8 @@
 #include "tests/support/scripted_desktop.h"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 #include <utility>
 
 namespace zarpel {
@@ -23,7 +25,11 @@ std::string CardList() {
     return list;
 }
 
-constexpr const char* kPreferences = "\"Humano\"\r\n\"Click Here\"\r\n32768\r\n16384\r\n\"\"\r\n";
+// The defaults that come with the game.
+std::string Preferences() {
+    std::ifstream file(ZARPEL_DATA "/pordefecto.dat", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 // The next prepared answer, or `otherwise` when none is left.
 template <class T>
@@ -43,8 +49,8 @@ ScriptedDesktop::ScriptedDesktop(unsigned seed) : generator_(seed) {
     Files[PathOf("naipe.dat")] = CardList();
     for (int carta = 1; carta <= kCards; ++carta) Files[CardPicture(carta)] = "";
     Files[PathOf("dibujo.jpg")] = "";
-    Files[PathOf("lastprop.dat")] = kPreferences;
-    Files[PathOf("pordefecto.dat")] = kPreferences;
+    Files[PathOf("lastprop.dat")] = Preferences();
+    Files[PathOf("pordefecto.dat")] = Preferences();
 }
 
 std::vector<std::string> ScriptedDesktop::TakeBoxTexts() {
