@@ -61,7 +61,8 @@ class Control : public Observed {
 // A control that holds others.
 class Container : public Control {
   public:
-    // In stacking order, the lowest first. The container does not own them.
+    // In stacking order, the lowest first. The container does not own them. While it is not enabled, none of
+    // them takes input.
     std::vector<Control*> Children;
 
     Property<std::string> Caption{*this};
@@ -139,8 +140,8 @@ class Frame : public Container {
   public:
     void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
-    bool Border = true;  // an etched border with the caption; without it the frame is a plain area
-    std::function<void()> Click;
+    bool Border = true;           // an etched border with the caption; without it the frame is a plain area
+    std::function<void()> Click;  // on its bare area, not on a control in it
     // A draggable picture was dropped on the bare frame, not on a control in it.
     std::function<void(Image& source)> DragDrop;
 };
@@ -192,8 +193,10 @@ class TabStrip : public Control {
         std::string Caption, ToolTip;
     };
     std::vector<Tab> Tabs;
-    Property<int> Selected{*this, 1};  // from 1
-    std::function<void()> Click;       // a tab was clicked or selected
+    // The tab in front, from 1. The front end assigns it, then calls Click, when the player clicks or selects
+    // a tab; assigned by the game it only moves the mark.
+    Property<int> Selected{*this, 1};
+    std::function<void()> Click;
 };
 
 // A menu entry, or a menu when it has entries.

@@ -27,6 +27,8 @@ struct Message {
     std::string Title = {};  // empty: the application's title
     zarpel::Buttons Buttons = Buttons::Ok;
     Answer Preselected = Answer::Yes;  // of a Yes/No box: the button that Enter presses
+
+    bool operator==(const Message&) const = default;
 };
 
 class Desktop {

@@ -10,6 +10,7 @@
 namespace zarpel {
 
 inline constexpr ColorCode kBlack = Rgb(0, 0, 0);
+inline constexpr ColorCode kGrey = Rgb(128, 128, 128);
 inline constexpr ColorCode kWhite = Rgb(255, 255, 255);
 inline constexpr ColorCode kTableGreen = Rgb(0, 128, 0);
 

@@ -31,7 +31,11 @@ void Playing::ConnectEvents() {
     Nuevomnu.Click = [this] { Nuevomnu_Click(); };
     abrirmnu.Click = [this] { abrirmnu_Click(); };
     guardarmnu.Click = [this] { guardarmnu_Click(); };
+    nombremnu.Click = [this] { nombremnu_Click(); };
+    preferenciasmnu.Click = [this] { preferenciasmnu_Click(); };
     salir.Click = [this] { salir_Click(); };
+    contenidosmnu.Click = [this] { contenidosmnu_Click(); };
+    acercamnu.Click = [this] { acercamnu_Click(); };
 }
 
 }  // namespace zarpel

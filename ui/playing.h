@@ -54,7 +54,11 @@ class Playing : public Form, public Mesa {
     void Nuevomnu_Click();
     void abrirmnu_Click();
     void guardarmnu_Click();
+    void nombremnu_Click();
+    void preferenciasmnu_Click();
     void salir_Click();
+    void contenidosmnu_Click();
+    void acercamnu_Click();
     void Toolbar1_ButtonClick(const std::string& key);
 
     // --- Files (playing_files.cpp) ---

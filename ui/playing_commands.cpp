@@ -1,8 +1,16 @@
 // The commands of the menus and of the toolbar. The same command can differ between the two: only the toolbar
 // asks before a new match and before leaving.
+#include "engine/zarpelfunc.h"
+#include "ui/aboutboxfrm.h"
 #include "ui/playing.h"
+#include "ui/preferenciasfrm.h"
 
 namespace zarpel {
+namespace {
+
+constexpr const char* kTerminaJuego = "Esta accion terminara con el juego actual, continuar?";
+
+}  // namespace
 
 bool Playing::Confirma(const std::string& texto, Icon icono) {
     return desktop_.Show({.Text = texto,
@@ -15,7 +23,7 @@ bool Playing::Confirma(const std::string& texto, Icon icono) {
 void Playing::Nuevomnu_Click() { ResetGame(); }
 
 void Playing::abrirmnu_Click() {
-    if (!Confirma("Esta accion terminara con el juego actual, continuar?", Icon::Exclamation)) return;
+    if (!Confirma(kTerminaJuego, Icon::Exclamation)) return;
     if (desktop_.ShowOpen(CommonDialog)) CargarJuego(CommonDialog.FileName);
 }
 
@@ -23,9 +31,31 @@ void Playing::guardarmnu_Click() {
     if (desktop_.ShowSave(CommonDialog)) GuardaJuego(CommonDialog.FileName);
 }
 
+void Playing::nombremnu_Click() {
+    if (!Confirma(kTerminaJuego, Icon::Exclamation)) return;
+    const std::string nombre = desktop_.InputBox("Ingrese su Nick Name", "Nuevo Jugador", "Humano");
+    if (!nombre.empty()) {
+        Naipes->aNombrejugador(nombre);
+        SaveProperty();
+    }
+    ResetGame();
+}
+
+void Playing::preferenciasmnu_Click() {
+    preferenciasfrm opciones(desktop_, *this);
+    desktop_.ShowModal(opciones);
+}
+
 void Playing::salir_Click() {
     desktop_.Unload(*this);
     desktop_.Show({.Text = "CHAU!"});
+}
+
+void Playing::contenidosmnu_Click() { desktop_.OpenHelp(desktop_.Folder() + "\\ayuda.chm"); }
+
+void Playing::acercamnu_Click() {
+    Aboutboxfrm acerca(desktop_);
+    desktop_.ShowModal(acerca);
 }
 
 void Playing::Toolbar1_ButtonClick(const std::string& key) {
@@ -33,8 +63,11 @@ void Playing::Toolbar1_ButtonClick(const std::string& key) {
         if (Confirma("Esta accion terminara con el juego actual\n¿continuar?", Icon::Question)) ResetGame();
     } else if (key == "Salir") {
         if (!Confirma("Esta accion terminara con la aplicacion\n¿continuar?", Icon::Question)) return;
+        SaveProperty();
         desktop_.Unload(*this);
         desktop_.End(0);
+    } else if (key == "Run") {
+        desktop_.Run(Toolbar1.Tag);
     }
 }
 

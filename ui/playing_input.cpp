@@ -23,7 +23,10 @@ void Playing::LevantarBtn_Click() { Levanta(duenios::kHumano); }
 
 void Playing::Frame1_DragDrop(Image& Source) { Juega(Source); }
 
-void Playing::Form_KeyDown(int keycode, int shift) { SensordeTeclas(keycode, shift); }
+void Playing::Form_KeyDown(int keycode, int shift) {
+    if (keycode == kKeyF1) return contenidosmnu_Click();
+    SensordeTeclas(keycode, shift);
+}
 
 void Playing::SensordeTeclas(int KeyAscii, int mayus) {
     if (puntajeP1Lbl.Caption.get().empty()) return;

@@ -6,7 +6,6 @@
 namespace zarpel {
 namespace {
 
-constexpr ColorCode kGrey = Rgb(128, 128, 128);
 constexpr ColorCode kDarkBlue = Rgb(0, 0, 128);
 
 const Font kHeading = {"Lucida Bright", 12, true};
