@@ -55,6 +55,12 @@ QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
     return QPixmap::fromImage(rounded);
 }
 
+// Of a built-in picture that comes in several sizes and is named without one.
+QImage LargestBuiltIn(const QString& picture) {
+    return picture.startsWith(QStringLiteral(":/")) ? BuiltInIcon(picture).pixmap(kLargest).toImage()
+                                                    : QImage();
+}
+
 }  // namespace
 
 QIcon BuiltInIcon(const QString& picture) {
@@ -66,7 +72,8 @@ QIcon BuiltInIcon(const QString& picture) {
 bool Pictures::Load(const std::string& path) {
     const QString name = SystemPath(path);
     if (decoded_.contains(name)) return true;
-    const QImage picture = Decode(name);
+    QImage picture = Decode(name);
+    if (picture.isNull()) picture = LargestBuiltIn(name);
     if (picture.isNull()) return false;
     decoded_.insert(name, picture);
     return true;
