@@ -1,5 +1,6 @@
 #include "platform/qt/views.h"
 
+#include <qdrawutil.h>
 #include <QDateTime>
 #include <QGridLayout>
 #include <QLocale>
@@ -111,6 +112,18 @@ void FrameView::Sync() {
     ControlView::Sync();
     setFont(FontOf({}, context_.Scale));
     setTitle(QString::fromStdString(control_.Caption));
+}
+
+// The caption interrupts the upper line, as the layouts have it: what the frame holds begins right under it.
+void FrameView::paintEvent(QPaintEvent*) {
+    constexpr int kIndent = 120, kGap = 30;  // twips
+    const QRect caption(context_.Scale.Pixels(kIndent), 0, fontMetrics().horizontalAdvance(title()),
+                        fontMetrics().height());
+    const int gap = context_.Scale.Pixels(kGap);
+    QPainter painter(this);
+    painter.drawText(caption, Qt::TextSingleLine | Qt::TextDontClip, title());
+    painter.setClipRegion(QRegion(rect()) - QRegion(caption.adjusted(-gap, 0, gap, 0)));
+    qDrawShadeRect(&painter, rect().adjusted(0, caption.center().y(), 0, 0), palette(), true);
 }
 
 void FrameView::mouseReleaseEvent(QMouseEvent* event) {

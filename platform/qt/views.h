@@ -138,6 +138,7 @@ class FrameView : public ControlView<QGroupBox, Frame> {
     void Sync() override;
 
   protected:
+    void paintEvent(QPaintEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
 };
 
