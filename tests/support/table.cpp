@@ -1,5 +1,7 @@
 #include "tests/support/table.h"
 
+#include <utility>
+
 namespace zarpel {
 namespace {
 
@@ -11,19 +13,35 @@ void Fill(const Slot& slot, int carta, const std::string& duenio) {
     Naipes->aMazo_Duenio(carta, duenio);
 }
 
-int At(std::initializer_list<int> cards, int i) {
-    return static_cast<std::size_t>(i) < cards.size() ? cards.begin()[i] : 0;
+int At(const std::vector<int>& cards, int i) {
+    return static_cast<std::size_t>(i) < cards.size() ? cards[static_cast<std::size_t>(i)] : 0;
 }
 
 }  // namespace
 
 Table::Table(unsigned seed, bool humanFirst) : Desktop(seed) {
     Desktop.Draws = {humanFirst ? 0.0 : 0.9};  // the first draw chooses the dealer
+    Window.cartellbl.Changed = [this] {
+        const std::string& caption = Window.cartellbl.Caption;
+        if (!caption.empty() && (captions_.empty() || captions_.back() != caption)) {
+            captions_.push_back(caption);
+        }
+    };
     Window.Load();
 }
 
-void Table::Lay(std::initializer_list<int> mesa, std::initializer_list<int> humano,
-                std::initializer_list<int> cpu) {
+void Table::Press(const std::string& keys, int shift) {
+    for (const char key : keys) Window.Form_KeyDown(key, shift);
+}
+
+void Table::GiveMoveTo(char clase) {
+    Reparto->aTurno(clase == clase::kCpu ? 1 : 0);
+    Window.DecideTurno();
+}
+
+std::vector<std::string> Table::TakeCaptions() { return std::exchange(captions_, {}); }
+
+void Table::Lay(const std::vector<int>& mesa, const std::vector<int>& humano, const std::vector<int>& cpu) {
     for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
     for (int i = 0; i < kLugaresMesa; ++i) Fill(Window.SlotMesa(i), At(mesa, i), duenios::kLaMesa);
     for (int i = 0; i < kLugaresMano; ++i) {
@@ -36,6 +54,7 @@ void Table::Lay(std::initializer_list<int> mesa, std::initializer_list<int> huma
     Desktop.Boxes.clear();
     Desktop.Calls.clear();
     Desktop.Pauses.clear();
+    captions_.clear();
 }
 
 std::vector<int> Table::OnTable() {

@@ -1,7 +1,6 @@
 // A game set up for a test: the main window on a scripted desktop, loaded, and laid out card by card.
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -22,8 +21,14 @@ struct Table {
 
     // Lays these cards (indexes, 0 for an empty place) in slot order; all other places are empty, all other
     // cards in the stock. It is the human's move.
-    void Lay(std::initializer_list<int> mesa, std::initializer_list<int> humano,
-             std::initializer_list<int> cpu);
+    void Lay(const std::vector<int>& mesa, const std::vector<int>& humano, const std::vector<int>& cpu);
+
+    // Presses keys, one a character, as the player would; Shift is held for all of them or for none.
+    void Press(const std::string& keys, int shift = 0);
+    // Runs the turn decision as if it were this player's turn ('p' the human's, 'c' the computer's).
+    void GiveMoveTo(char clase);
+    // The captions that cartellbl has shown since the last call of this function.
+    std::vector<std::string> TakeCaptions();
 
     // The indexes of the cards shown on the table, or in a hand, in slot order.
     std::vector<int> OnTable();
@@ -31,6 +36,9 @@ struct Table {
 
     ScriptedDesktop Desktop;
     Playing Window{Desktop};
+
+  private:
+    std::vector<std::string> captions_;
 };
 
 }  // namespace zarpel
