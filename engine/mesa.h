@@ -64,8 +64,8 @@ class Mesa {
     void DecideTurno();
     // One distribution: three cards to each player; the first of a deal also lays four on the table.
     void SeReparte();
-    // Lays the hand card shown in `Source` on the first free table slot and passes the turn. On a full table
-    // nothing happens, and the turn stays.
+    // Lays the hand card shown in `Source` on the first free table slot and passes the turn. On a full table,
+    // or when the card is gone (a drop that waited while others moved), nothing happens, and the turn stays.
     void Juega(Image& Source);
     // Sets the owner tag of card `subind`; an index that no card has is passed over.
     void AsignoANaipe(int subind, const std::string& aquien);

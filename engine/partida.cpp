@@ -159,6 +159,7 @@ void Mesa::OcultaSinRepartir(int primera, int ultima) {
 }
 
 void Mesa::Juega(Image& Source) {
+    if (!Source.Visible) return;
     for (int i = 0; i < kLugaresMesa; ++i) {
         Image& lugar = SlotMesa(i).Imagen;
         if (lugar.Visible) continue;

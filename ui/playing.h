@@ -82,6 +82,9 @@ class Playing : public Form, public Mesa {
     Fields Preferencias();
     bool RedibujaCartas();
     void TapaCartasCpu();
+    // Selects or deselects the card in a place of the player's reach. An event that waited while the computer
+    // moved can find the place empty, and then does nothing.
+    void Toca(const Slot& slot);
     bool Confirma(const std::string& texto, Icon icono);
 };
 

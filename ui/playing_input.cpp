@@ -15,9 +15,13 @@ constexpr int kBordeBarra = 8055;  // from here down the pointer calls the statu
 
 }  // namespace
 
-void Playing::mesaimg_Click(int Index) { Verifica(SlotMesa(Index)); }
+void Playing::mesaimg_Click(int Index) { Toca(SlotMesa(Index)); }
 
-void Playing::cartap2img_Click(int Index) { Verifica(SlotHumano(Index)); }
+void Playing::cartap2img_Click(int Index) { Toca(SlotHumano(Index)); }
+
+void Playing::Toca(const Slot& slot) {
+    if (slot.Ocupado()) Verifica(slot);
+}
 
 void Playing::LevantarBtn_Click() { Levanta(duenios::kHumano); }
 
@@ -34,17 +38,12 @@ void Playing::SensordeTeclas(int KeyAscii, int mayus) {
 
     const char tecla = static_cast<char>(KeyAscii);
     const std::size_t mesa = kTeclasMesa.find(tecla);
-    if (mesa != std::string_view::npos) {
-        const Slot slot = SlotMesa(static_cast<int>(mesa));
-        if (slot.Ocupado()) Verifica(slot);
-        return;
-    }
+    if (mesa != std::string_view::npos) return Toca(SlotMesa(static_cast<int>(mesa)));
     const std::size_t mano = kTeclasMano.find(tecla);
     if (mano == std::string_view::npos) return;
     const Slot slot = SlotHumano(static_cast<int>(mano));
-    if (!slot.Ocupado()) return;
     if (mayus == kShift) return Juega(slot.Imagen);
-    Verifica(slot);
+    Toca(slot);
 }
 
 void Playing::Form_MouseMove(int /*x*/, int y) { StatusBar1.Visible = y >= kBordeBarra; }
