@@ -5,6 +5,7 @@
 #include "engine/zarpelfunc.h"
 
 namespace zarpel {
+
 int Mesa::Suma() const {
     const std::string& tag = SumandoLbl.Tag;
     int suma = 0;

@@ -1,5 +1,6 @@
 #include "engine/classnaipe.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 

@@ -20,6 +20,7 @@ constexpr int kLugaresMesa = 8;
 constexpr int kLugaresMano = 3;
 constexpr int kPosiciones = kLugaresMesa + 2 * kLugaresMano;  // position codes are 1 to this
 constexpr int kSumaDeLevante = 15;
+constexpr int kPausaMs = 1500;  // long enough to see what happens
 
 // The count of a deal: rows cards, oros, sevens, velo and zarpels; columns computer and human.
 enum FilaCuenta { kCartasGanadas, kOros, kSietes, kVelo, kZarpels, kFilasCuenta };
@@ -131,6 +132,7 @@ class Mesa {
     static constexpr std::size_t Pos(int i) { return static_cast<std::size_t>(i); }
 
     void RepartoNuevo();
+    void SigueOtroReparto();
     void AnunciaReparto();
     void JuegaHumano();
     void JuegaCpu();
@@ -144,8 +146,8 @@ class Mesa {
     void Entrega(const Slot& slot, const std::string& duenio);
     bool EligeHumana();
     void Elige(const Slot& slot);
-    bool BuscaLevante(int& carta);
-    bool PruebaDesde(int carta, int ancla);
+    bool BuscaLevante(int& mano);
+    bool PruebaDesde(int mano, int ancla);
     Matriz Cuenta() const;
 
     // Passes since a card was last played or dealt. Two in a row mean that nobody can move.

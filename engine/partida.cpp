@@ -59,6 +59,12 @@ void Mesa::RepartoNuevo() {
     pasosSeguidos_ = 0;
 }
 
+void Mesa::SigueOtroReparto() {
+    RepartoNuevo();
+    Naipes->Setnaipe(Naipes->CantCartas());
+    DecideTurno();
+}
+
 void Mesa::Inicia() {
     for (Image& imagen : mesaimg) imagen.Enabled = true;
     for (Image& imagen : cartap2img) imagen.Enabled = true;

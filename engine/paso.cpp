@@ -48,9 +48,7 @@ void Mesa::Pasa() {
 
 void Mesa::AnulaReparto() {
     desktop_.Show({.Text = "Ninguno de los dos puede jugar: se reparte de nuevo", .Icon = Icon::Information});
-    RepartoNuevo();
-    Naipes->Setnaipe(Naipes->CantCartas());
-    DecideTurno();
+    SigueOtroReparto();
 }
 
 }  // namespace zarpel

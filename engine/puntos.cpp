@@ -5,7 +5,6 @@
 namespace zarpel {
 namespace {
 
-constexpr int kPausaMs = 1500;
 constexpr int kPuntosDePartida = 15;
 
 // The rows that give one point to the player who holds more; a zarpel gives a point each.
@@ -60,9 +59,7 @@ void Mesa::CuentaPuntos() {
     if (Naipes->Puntajehumano() >= kPuntosDePartida || Naipes->Puntajecpu() >= kPuntosDePartida) {
         return DefineGanador(Naipes->Puntajecpu(), Naipes->Puntajehumano());
     }
-    RepartoNuevo();
-    Naipes->Setnaipe(Naipes->CantCartas());
-    DecideTurno();
+    SigueOtroReparto();
 }
 
 void Mesa::DefineGanador(std::int16_t puntaje1, std::int16_t puntaje2) {

@@ -5,20 +5,15 @@
 #include "engine/zarpelfunc.h"
 
 namespace zarpel {
-namespace {
-
-constexpr int kPausaMs = 1500;  // long enough to see what the computer does
-
-}  // namespace
 
 void Mesa::TurnoPc() {
-    int carta = 0;
-    const bool levanta = BuscaLevante(carta);
+    int mano = 0;
+    const bool levanta = BuscaLevante(mano);
     BajaCartasMesa();
     if (levanta) {
         cartellbl.Caption = "Me llevo estas cartas";
-        fondop1img.at(Pos(carta)).Visible = false;
-        SlotCpu(carta).Imagen.Refresh();
+        fondop1img.at(Pos(mano)).Visible = false;
+        SlotCpu(mano).Imagen.Refresh();
         desktop_.Pause(kPausaMs);
         return Levanta(duenios::kCpu);
     }
@@ -26,16 +21,16 @@ void Mesa::TurnoPc() {
     cartellbl.Caption = pasa ? "Paso" : "He Jugado una carta";
     desktop_.Pause(kPausaMs);
     if (pasa) return Pasa();
-    Juega(SlotCpu(carta).Imagen);
+    Juega(SlotCpu(mano).Imagen);
 }
 
-// True when a capture was found, and is selected. `carta` becomes the capturing hand slot, or else the last
+// True when a capture was found, and is selected. `mano` becomes the capturing hand slot, or else the last
 // one that holds a card.
-bool Mesa::BuscaLevante(int& carta) {
+bool Mesa::BuscaLevante(int& mano) {
     for (int i = 0; i < kLugaresMano; ++i) {
         EmprolijaDesktop();
         if (!SlotCpu(i).Ocupado()) continue;
-        carta = i;
+        mano = i;
         for (int ancla = 0; ancla < kLugaresMesa; ++ancla) {
             if (PruebaDesde(i, ancla)) return true;
         }
@@ -44,9 +39,9 @@ bool Mesa::BuscaLevante(int& carta) {
 }
 
 // One walk: the hand card, the anchor, and each later table card that still fits.
-bool Mesa::PruebaDesde(int carta, int ancla) {
+bool Mesa::PruebaDesde(int mano, int ancla) {
     EmprolijaDesktop();
-    Verifica(SlotCpu(carta));
+    Verifica(SlotCpu(mano));
     if (!SlotMesa(ancla).Ocupado()) return false;
     for (int i = ancla; i < kLugaresMesa; ++i) {
         if (!SlotMesa(i).Ocupado()) continue;
