@@ -28,7 +28,7 @@ TEST(Reparto, AMatchBeginsWithTheDealAndTheMoveOfWhoDoesNotDeal) {
         const Texts captions = table.TakeCaptions();
         EXPECT_EQ(Naipes->LaMano(), humanFirst ? 0 : 1);
         EXPECT_EQ(captions.front(),
-                  humanFirst ? "Reparte Cpu - Juega " + nombre : "Reparte " + nombre + " - Juega Cpu");
+                  humanFirst ? "Reparte Cpu - Juega Humano" + nombre : "Reparte " + nombre + " - Juega Cpu");
         EXPECT_EQ(captions.at(1), humanFirst ? "Juega " + nombre : "Juega Cpu");
         EXPECT_EQ(captions.back(), "Juega " + nombre);
         EXPECT_EQ(table.InHand(clase::kHumano).size(), 3U);
@@ -109,7 +109,7 @@ TEST(Paso, NoTableIsEverStuck) {
         char Mover;
         bool Annulled = false;
     };
-    const std::string juega = "Juega ";  // and the nickname, which stays empty here
+    const std::string juega = "Juega Humano";
     const Case cases[] = {
         {"human",
          {kBlocked},
@@ -122,21 +122,21 @@ TEST(Paso, NoTableIsEverStuck) {
          {kBlocked},
          {3},
          {kMesaLlena, kNinguno},
-         {"Juega Cpu", "Paso", "Reparte Cpu - Juega ", juega},
+         {"Juega Cpu", "Paso", "Reparte Cpu - Juega Humano", juega},
          'p',
          true},
         {"both, computer first",
          {kBlocked},
          {3},
          {kMesaLlena, kNinguno},
-         {"Juega Cpu", "Paso", juega, "Reparte Cpu - Juega ", juega},
+         {"Juega Cpu", "Paso", juega, "Reparte Cpu - Juega Humano", juega},
          'c',
          true},
         {"human blocked, computer without cards",
          {kBlocked},
          {},
          {kMesaLlena, kNinguno},
-         {"Juega Cpu", "Reparte Cpu - Juega ", juega},
+         {"Juega Cpu", "Reparte Cpu - Juega Humano", juega},
          'p',
          true},
         {"human without cards",
@@ -150,7 +150,6 @@ TEST(Paso, NoTableIsEverStuck) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.What);
         Table table;
-        Naipes->aNombrejugador("");
         Reparto->aZarpelP1(2);
         Naipes->aPuntajehumano(4);
         table.Lay({10, 20, 30, 40, 9, 19, 29, 39}, c.Humano, c.Cpu);
