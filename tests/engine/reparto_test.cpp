@@ -28,7 +28,7 @@ TEST(Reparto, AMatchBeginsWithTheDealAndTheMoveOfWhoDoesNotDeal) {
         const Texts captions = table.TakeCaptions();
         EXPECT_EQ(Naipes->LaMano(), humanFirst ? 0 : 1);
         EXPECT_EQ(captions.front(),
-                  humanFirst ? "Reparte Cpu - Juega Humano" + nombre : "Reparte " + nombre + " - Juega Cpu");
+                  humanFirst ? "Reparte Cpu - Juega " + nombre : "Reparte " + nombre + " - Juega Cpu");
         EXPECT_EQ(captions.at(1), humanFirst ? "Juega " + nombre : "Juega Cpu");
         EXPECT_EQ(captions.back(), "Juega " + nombre);
         EXPECT_EQ(table.InHand(clase::kHumano).size(), 3U);
