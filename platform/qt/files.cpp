@@ -26,14 +26,13 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t li
     return bytes.toStdString();
 }
 
-// A QSaveFile writes beside the file, brings that to the disk, and renames it.
+// A QSaveFile writes beside the file, brings that to the disk, and renames it. What it fails to write from
+// its buffer on the way it does not notice: on a full disk an empty file would take the old one's place.
 bool ReplaceFile(const std::string& path, const std::string& bytes) {
     QSaveFile file(SystemPath(path));
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    if (file.write(bytes.data(), static_cast<qint64>(bytes.size())) != static_cast<qint64>(bytes.size())) {
-        return false;
-    }
-    return file.commit();
+    const auto size = static_cast<qint64>(bytes.size());
+    return file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.flush() &&
+           file.commit();
 }
 
 }  // namespace zarpel
