@@ -172,12 +172,16 @@ TEST(Partida, LinesChangedByHandAreReadOrRefused) {
     table.Lay({Card(3, 'e'), Card(5, 'b')}, {Card(2, 'c'), Card(1, 'c')}, {Card(2, 'b'), Card(4, 'b')});
     table.Window.mesaimg[5].Tag = "9";
     const Lines saved = LinesOf(Saved(table));
-    const std::string fresh = Open(std::nullopt).AtTheBox;
+    const Lines fresh = LinesOf(Open(std::nullopt).AtTheBox);
     for (const Case& c : cases) {
         Lines lines = saved;
         lines[c.Line - 1] = c.Text;
         const Opened opened = Open(FileOf(lines));
         if (c.ReadAs.empty()) {
+            // A Tag is found out only when all values have been applied.
+            const auto from = c.Line == 4 ? lines.size() : c.Line - 1;
+            std::copy(fresh.begin() + long(from), fresh.end(), lines.begin() + long(from));
+            EXPECT_EQ(opened.AtTheBox, FileOf(lines)) << c.Line << " " << c.Text;
             EXPECT_EQ(opened.Calls, (Texts{kDamaged, kConfirmation})) << c.Line << " " << c.Text;
         } else {
             lines[c.Line - 1] = c.ReadAs;
@@ -193,10 +197,7 @@ TEST(Partida, WithAPictureThatCannotBeLoadedIsDrawnUpToIt) {
     Table table;
     table.Lay({Card(3, 'e'), Card(5, 'b'), Card(6, 'b')}, {Card(2, 'c')}, {Card(2, 'b')});
     table.Desktop.Files[kPath] = Saved(table);
-    table.Window.Load();
-    const std::string fresh = table.Window.mesaimg[1].Picture;
     table.Desktop.Files.erase(CardPicture(Card(5, 'b')));
-    table.Desktop.Seed(1);
     table.Desktop.Answers = {Answer::No};
     table.Desktop.TakeBoxTexts();
     table.Desktop.OnBox = [&](const Message& box) {
