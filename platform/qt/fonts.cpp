@@ -20,7 +20,7 @@ constexpr std::array kSubstitutes = {
 
 constexpr int kMostCondensed = 70;  // per cent; narrower letters are harder to read than smaller ones
 constexpr int kCondenseStep = 5;
-constexpr int kSmallest = 4;  // pixels
+constexpr int kSmallest = 5;  // pixels
 
 bool Fits(const QString& text, const QFont& font, const QSize& room, bool wrap) {
     const QFontMetrics metrics(font);
@@ -51,15 +51,16 @@ QSize NaturalSize(const QString& text, const QFont& font) {
     return {metrics.horizontalAdvance(text), metrics.height()};
 }
 
-QFont FitFont(const QString& text, QFont font, const QSize& room, bool wrap) {
+FittedText FitText(const QString& text, QFont font, const QSize& room, bool wrap) {
     for (int stretch = 100; stretch >= kMostCondensed; stretch -= kCondenseStep) {
         font.setStretch(stretch);
-        if (Fits(text, font, room, wrap)) return font;
+        if (Fits(text, font, room, wrap)) return {font, text};
     }
-    while (font.pixelSize() > kSmallest && !Fits(text, font, room, wrap)) {
-        font.setPixelSize(font.pixelSize() - 1);
+    for (QFont smaller = font; smaller.pixelSize() > kSmallest;) {
+        smaller.setPixelSize(smaller.pixelSize() - 1);
+        if (Fits(text, smaller, room, wrap)) return {smaller, text};
     }
-    return font;
+    return {font, QFontMetrics(font).elidedText(text, Qt::ElideRight, room.width())};
 }
 
 }  // namespace zarpel

@@ -16,8 +16,14 @@ QFont FontOf(const Font& font, const Scale& scale);
 // The size that a text takes on one line, in pixels.
 QSize NaturalSize(const QString& text, const QFont& font);
 
-// `font`, or, when the text does not fit into `room` with it, that font condensed, then also made smaller
-// until it fits. With `wrap` the text may take several lines.
-QFont FitFont(const QString& text, QFont font, const QSize& room, bool wrap);
+struct FittedText {
+    QFont Font;
+    QString Text;
+};
+
+// The text with `font`, or, when it does not fit into `room` so, with that font condensed, then also made
+// smaller until it fits. With `wrap` it may take several lines. A text that not even the smallest legible
+// letters bring in is shortened to one line that ends in "…".
+FittedText FitText(const QString& text, QFont font, const QSize& room, bool wrap);
 
 }  // namespace zarpel

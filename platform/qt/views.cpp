@@ -43,7 +43,12 @@ void LabelView::Sync() {
     const QString caption = QString::fromStdString(control_.Caption);
     const QFont wanted = FontOf(control_.Font, context_.Scale);
     setGeometry(Room(wanted));
-    setFont(FitFont(caption, wanted, contentsRect().size(), control_.WordWrap));
+    const FittedText fitted = FitText(caption, wanted, size(), control_.WordWrap);
+    setFont(fitted.Font);
+    drawn_ = fitted.Text;
+    // What is hard to read is said by the tooltip.
+    const bool small = fitted.Font.pixelSize() < wanted.pixelSize() || drawn_ != caption;
+    if (small) setToolTip(Qt::convertFromPlainText(caption));
     // Setting the text tells a screen reader, so only a new one is set.
     if (caption != text()) setText(caption);
     update();
@@ -58,7 +63,7 @@ void LabelView::paintEvent(QPaintEvent*) {
                        : control_.Align == Alignment::Right ? Qt::AlignRight
                                                             : Qt::AlignLeft;
     const int wrap = control_.WordWrap ? Qt::TextWordWrap : Qt::TextSingleLine;
-    painter.drawText(rect(), across | (control_.Border ? Qt::AlignVCenter : Qt::AlignTop) | wrap, text());
+    painter.drawText(rect(), across | (control_.Border ? Qt::AlignVCenter : Qt::AlignTop) | wrap, drawn_);
 }
 
 void LabelView::mouseReleaseEvent(QMouseEvent* event) {
@@ -90,8 +95,9 @@ void ButtonView::Sync() {
     }
     const QString caption = QString::fromStdString(control_.Caption);
     if (caption != text()) setText(caption);
-    setFont(FitFont(QString(caption).remove('&'), FontOf({}, context_.Scale),
-                    size() - QSize(height() / 4, height() / 4), false));
+    setFont(FitText(QString(caption).remove('&'), FontOf({}, context_.Scale),
+                    size() - QSize(height() / 4, height() / 4), false)
+                .Font);
 }
 
 // --- Frames and lines ---

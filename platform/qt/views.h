@@ -110,6 +110,8 @@ class LabelView : public ControlView<QLabel, Label> {
 
   private:
     QRect Room(const QFont& font) const;
+
+    QString drawn_;  // the caption, or as much of it as there is room for
 };
 
 class ButtonView : public ControlView<QPushButton, Button> {
