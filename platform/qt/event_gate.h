@@ -17,6 +17,7 @@ class EventGate {
 
     // Runs the handler now, or after those before it. `Idle` is called when none is left.
     void Pass(Handler handler) {
+        if (closed_) return;
         waiting_.push_back(std::move(handler));
         if (busy_) return;
         busy_ = true;
@@ -29,14 +30,18 @@ class EventGate {
         if (Idle) Idle();
     }
 
-    // Forgets what waits.
-    void Clear() { waiting_.clear(); }
+    // Nothing more is handed over, of what waits or is yet to come: the window is gone.
+    void Close() {
+        waiting_.clear();
+        closed_ = true;
+    }
 
     Handler Idle;
 
   private:
     std::deque<Handler> waiting_;
     bool busy_ = false;
+    bool closed_ = false;
 };
 
 }  // namespace zarpel

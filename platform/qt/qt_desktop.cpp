@@ -68,12 +68,13 @@ FormWindow& QtDesktop::Open(Form& form, std::function<void()> unloaded) {
 
 void QtDesktop::Show(Form& form) {
     if (WindowOf(form)) return;
-    EventGate& gate = GateOf(form);
-    ShowMaximised(Open(form, [&gate] {
-        gate.Clear();
-        // Also when this happens during the start, before the event loop runs.
-        gate.Idle = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
-    }));
+    // Once its handler has returned, and the event loop runs: it may still be that of the start.
+    const auto leave = [this, &form] {
+        Forget(form);
+        QApplication::quit();
+    };
+    ShowMaximised(Open(
+        form, [this, &form, leave] { GateOf(form).Idle = [leave] { QTimer::singleShot(0, qApp, leave); }; }));
 }
 
 // The scale depends on the room that the maximised window really has, under its title and menu bar. The
@@ -107,6 +108,10 @@ void QtDesktop::ShowModal(Form& form) {
     window.show();
     window.FocusFirst();
     loop.exec();
+    Forget(form);
+}
+
+void QtDesktop::Forget(const Form& form) {
     std::erase_if(opened_, [&form](const Opened& opened) { return opened.Shown == &form; });
     contexts_.erase(&form);
     gates_.erase(&form);
@@ -116,6 +121,7 @@ void QtDesktop::Unload(Form& form) {
     const auto found = std::find_if(opened_.begin(), opened_.end(),
                                     [&form](const Opened& opened) { return opened.Shown == &form; });
     if (found == opened_.end()) return;
+    GateOf(form).Close();
     found->Window->hide();
     found->Unloaded();
 }

@@ -61,6 +61,8 @@ class QtDesktop : public Desktop {
 
     EventGate& GateOf(const Form& form) { return gates_[&form]; }
     FormWindow& Open(Form& form, std::function<void()> unloaded);
+    // Destroys the form's window and what belongs to it.
+    void Forget(const Form& form);
     void ShowMaximised(FormWindow& window);
     void UseScale(const QSize& client);
     QWidget* TopWindow() const;
