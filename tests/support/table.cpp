@@ -19,6 +19,19 @@ int At(const std::vector<int>& cards, int i) {
 
 }  // namespace
 
+void LayCards(Playing& window, const std::vector<int>& mesa, const std::vector<int>& humano,
+              const std::vector<int>& cpu) {
+    for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
+    for (int i = 0; i < kLugaresMesa; ++i) Fill(window.SlotMesa(i), At(mesa, i), duenios::kLaMesa);
+    for (int i = 0; i < kLugaresMano; ++i) {
+        Fill(window.SlotHumano(i), At(humano, i), duenios::kHumano);
+        Fill(window.SlotCpu(i), At(cpu, i), duenios::kCpu);
+        window.fondop1img.at(static_cast<std::size_t>(i)).Visible = At(cpu, i) != 0;
+    }
+    window.EmprolijaDesktop();
+    Reparto->aTurno(1);
+}
+
 Table::Table(unsigned seed, bool humanFirst) : Desktop(seed) {
     Desktop.Draws = {humanFirst ? 0.0 : 0.9};  // the first draw chooses the dealer
     Window.cartellbl.Changed = [this] {
@@ -42,15 +55,7 @@ void Table::GiveMoveTo(char clase) {
 std::vector<std::string> Table::TakeCaptions() { return std::exchange(captions_, {}); }
 
 void Table::Lay(const std::vector<int>& mesa, const std::vector<int>& humano, const std::vector<int>& cpu) {
-    for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
-    for (int i = 0; i < kLugaresMesa; ++i) Fill(Window.SlotMesa(i), At(mesa, i), duenios::kLaMesa);
-    for (int i = 0; i < kLugaresMano; ++i) {
-        Fill(Window.SlotHumano(i), At(humano, i), duenios::kHumano);
-        Fill(Window.SlotCpu(i), At(cpu, i), duenios::kCpu);
-        Window.fondop1img.at(static_cast<std::size_t>(i)).Visible = At(cpu, i) != 0;
-    }
-    Window.EmprolijaDesktop();
-    Reparto->aTurno(1);
+    LayCards(Window, mesa, humano, cpu);
     Desktop.Boxes.clear();
     Desktop.Calls.clear();
     Desktop.Pauses.clear();

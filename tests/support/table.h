@@ -15,12 +15,16 @@ constexpr int Card(int numero, char palo) {
     return numero + (palo == 'e' ? 0 : palo == 'b' ? 10 : palo == 'o' ? 20 : 30);
 }
 
+// Lays these cards (indexes, 0 for an empty place) in slot order; all other places are empty, all other cards
+// in the stock. It is the human's move.
+void LayCards(Playing& window, const std::vector<int>& mesa, const std::vector<int>& humano,
+              const std::vector<int>& cpu);
+
 struct Table {
     // Starts the program; the first match is dealt, and the human is to move when `humanFirst`.
     explicit Table(unsigned seed = 1, bool humanFirst = true);
 
-    // Lays these cards (indexes, 0 for an empty place) in slot order; all other places are empty, all other
-    // cards in the stock. It is the human's move.
+    // As LayCards; forgets the boxes, calls and pauses so far.
     void Lay(const std::vector<int>& mesa, const std::vector<int>& humano, const std::vector<int>& cpu);
 
     // Presses keys, one a character, as the player would; Shift is held for all of them or for none.

@@ -1,0 +1,77 @@
+// The game in a window of the toolkit, which paints into memory: real events go in, pixels and accessible
+// names come out.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <functional>
+#include <vector>
+
+#include "platform/qt/qt_desktop.h"
+#include "tests/support/table.h"
+
+namespace zarpel {
+
+// Waits only when told to; the first dealer drawn is the computer, so that the human begins.
+class QuickDesktop : public QtDesktop {
+  public:
+    using QtDesktop::QtDesktop;
+    void Pause(int milliseconds) override {
+        Pauses.push_back(milliseconds);
+        OnPause();
+    }
+    double Rnd() override { return draws_++ == 0 ? 0 : QtDesktop::Rnd(); }
+
+    std::vector<int> Pauses;
+    std::function<void()> OnPause = [] {};
+
+  private:
+    int draws_ = 0;
+};
+
+class QtTable : public testing::Test {
+  protected:
+    QtTable();
+    ~QtTable() override;
+
+    FormWindow& Window() { return *Desktop.WindowOf(Game); }
+
+    // The widget that draws a control.
+    template <class ViewClass, class Model>
+    static ViewClass& ViewOf(Model& control, QWidget& window) {
+        for (auto* const widget : window.findChildren<QWidget*>()) {
+            auto* const view = dynamic_cast<ViewClass*>(widget);
+            if (view && &view->Control() == &control) return *view;
+        }
+        throw std::logic_error("no view");
+    }
+    template <class ViewClass, class Model>
+    ViewClass& ViewOf(Model& control) {
+        return ViewOf<ViewClass>(control, Window());
+    }
+
+    // Where the middle of a place stands in the window, shown or not.
+    QPoint Middle(Control& control, QWidget& container);
+    QPoint Middle(Image& image);
+    QPoint BareTable();
+
+    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
+    void Drag(const QPoint& from, const QPoint& to);
+    void Key(Qt::Key key, quint32 scanCode = 0, Qt::KeyboardModifiers modifiers = {}, bool repeats = false);
+
+    // What the player does in the next modal window; called while that is open.
+    static void InBox(std::function<void(QWidget&)> action);
+
+    QTemporaryDir Folder;
+    QuickDesktop Desktop{Folder.path().toStdString()};
+    Playing Game{Desktop};
+};
+
+// A picture of one colour, and the colour that the table's test pictures have.
+void WritePicture(const QString& path, const QColor& color, const QSize& size = {20, 30});
+QColor ColorOfCard(int carta);
+
+}  // namespace zarpel
