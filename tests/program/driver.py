@@ -1,0 +1,208 @@
+"""Drives the real program from outside: a private X display with a window manager and an accessibility bus.
+
+What the table shows is read through the accessibility bus, as a screen reader does; what the player does goes through
+the keyboard and the mouse of the display. Needs Xvfb, openbox, xdotool, dbus-daemon and the Python bindings of AT-SPI
+(Debian: xvfb, openbox, xdotool, dbus, at-spi2-core, python3-pyatspi).
+"""
+import contextlib
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+DEADLINE = 60  # seconds that anything may take, on a slow machine
+CARD = re.compile(r"(\d+) de (\w+)")
+
+
+def wait(condition, what, seconds=DEADLINE):
+    """Waits for the condition; gives its first true value."""
+    end = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        assert time.monotonic() < end, f"waited {seconds} s for {what}"
+        time.sleep(0.02)
+
+
+class Node:
+    """What the accessibility bus says of a widget."""
+
+    def __init__(self, accessible):
+        self.name = accessible.get_name()
+        self.description = accessible.get_description()
+        self.role = accessible.get_role()
+        states = accessible.get_state_set()
+        self.active = states.contains(Atspi.StateType.ACTIVE)
+        self.enabled = states.contains(Atspi.StateType.ENABLED)
+        at = accessible.get_extents(Atspi.CoordType.SCREEN)
+        self.middle = (at.x + at.width // 2, at.y + at.height // 2)
+        self.corner = (at.x + 3, at.y + 3)
+        children = (accessible.get_child_at_index(i) for i in range(accessible.get_child_count()))
+        self.children = [Node(child) for child in children if child]
+
+    def all(self):
+        yield self
+        for child in self.children:
+            yield from child.all()
+
+    def texts(self):
+        return [node.name for node in self.all() if node.role == Atspi.Role.LABEL and node.name]
+
+    def button(self, name):
+        return next(node for node in self.all() if node.role == Atspi.Role.PUSH_BUTTON and node.name == name)
+
+
+class Table(Node):
+    """The main window at one moment."""
+
+    def cards(self, row):
+        """The cards of "mesa", "mano" or "cpu" by place, from 1; each has `number`, `chosen` and `middle`."""
+        found = {}
+        for node in self.all():
+            place = re.fullmatch(rf"{row} (\d)(, elegida)?", node.description or "")
+            if not place:
+                continue
+            face = CARD.fullmatch(node.name)
+            node.number = int(face[1]) if face else None
+            node.chosen = bool(place[2])
+            found[int(place[1])] = node
+        return found
+
+    def caption(self):
+        words = ("Juega", "Reparte", "Me llevo", "He Jugado", "Esta es", "Paso")
+        return next((text for text in self.texts() if text.startswith(words)), "")
+
+    def humans_turn(self):
+        return self.caption().startswith("Juega") and self.caption() != "Juega Cpu"
+
+    def bare_table(self):
+        """A point of the table area where no card can lie."""
+        client = next(node for node in self.children if node.role == Atspi.Role.PANEL)
+        return next(node for node in client.children if node.role == Atspi.Role.PANEL).corner
+
+    def points(self):
+        """The points in the match, the computer's and the player's."""
+        return tuple(int(text) for text in self.texts() if text.isdigit())[:2]
+
+
+class Game:
+    def __init__(self, process, folder):
+        self.process = process
+        self.folder = folder
+
+    def windows(self):
+        desktop = Atspi.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            with contextlib.suppress(GLib.Error, AttributeError):
+                application = desktop.get_child_at_index(i)
+                if application.get_process_id() == self.process.pid:
+                    application.set_cache_mask(Atspi.Cache.NONE)
+                    return [application.get_child_at_index(j) for j in range(application.get_child_count())]
+        return []
+
+    def window(self, kind, wanted):
+        """The window that `wanted` is true of, or None while there is none or it is just going."""
+        with contextlib.suppress(GLib.Error, AttributeError, TypeError):
+            for accessible in self.windows():
+                if wanted(accessible):
+                    return kind(accessible)
+        return None
+
+    def table(self):
+        return wait(lambda: self.window(Table, lambda w: w.get_name() == "Playing"), "the table")
+
+    def box(self):
+        """The message box that is open and takes the keys, or None."""
+        boxes = (Atspi.Role.ALERT, Atspi.Role.DIALOG)
+        found = self.window(Node, lambda w: w.get_role() in boxes and w.get_name() != "Resultados")
+        return found if found and found.active else None
+
+    def results(self):
+        found = self.window(Node, lambda w: w.get_name() == "Resultados")
+        return found if found and found.active else None
+
+    def answer(self, title, text):
+        """Waits for the box whose text begins so, and presses Enter."""
+        box = wait(self.box, f'the box "{text}"')
+        assert box.name == title and box.texts()[0].startswith(text), (box.name, box.texts())
+        keys("Return")
+        wait(lambda: self.ended() or not self.is_open(box), f'the end of the box "{text}"')
+
+    def is_open(self, box):
+        now = self.box()
+        return now and now.texts() == box.texts()
+
+    def ended(self):
+        return self.process.poll() is not None
+
+    def processor_ticks(self):
+        fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rpartition(")")[2].split()
+        return int(fields[11]) + int(fields[12])
+
+
+def xdotool(*words):
+    subprocess.run(["xdotool", *map(str, words)], check=True)
+
+
+def keys(*names):
+    xdotool("key", "--delay", 1, *names)
+
+
+def click(node):
+    xdotool("mousemove", *node.middle, "click", 1)
+
+
+def drag(node, to):
+    xdotool("mousemove", *node.middle, "mousedown", 1)
+    for step in (1, 2, 3, 4):
+        xdotool("mousemove", *(a + (b - a) * step // 4 for a, b in zip(node.middle, to)))
+    xdotool("mouseup", 1)
+
+
+@contextlib.contextmanager
+def running(command, **options):
+    process = subprocess.Popen(command, **options)
+    try:
+        yield process
+    finally:
+        process.terminate()
+        process.wait()
+
+
+@contextlib.contextmanager
+def desktop(size):
+    """A display of this size ("800x600"), with window manager and session bus, for all programs started meanwhile."""
+    with contextlib.ExitStack() as stack:
+        quiet = {"stderr": subprocess.DEVNULL}
+        server = ["Xvfb", "-displayfd", "1", "-screen", "0", f"{size}x24", "-nolisten", "tcp"]
+        display = stack.enter_context(running(server, stdout=subprocess.PIPE, **quiet))
+        os.environ["DISPLAY"] = ":" + display.stdout.readline().decode().strip()
+        os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        bus = ["dbus-daemon", "--session", "--nofork", "--print-address=1"]
+        session = stack.enter_context(running(bus, stdout=subprocess.PIPE, **quiet))
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = session.stdout.readline().decode().strip()
+        stack.enter_context(running(["openbox"], stdout=subprocess.DEVNULL, **quiet))
+        search = ["xdotool", "search", "--class", "openbox"]
+        wait(lambda: subprocess.run(search, stdout=subprocess.DEVNULL, **quiet).returncode == 0, "the window manager")
+        Atspi.init()
+        yield
+
+
+@contextlib.contextmanager
+def game(program, damage=lambda folder: None):
+    """The program, started from a copy of its folder that `damage` may change."""
+    with tempfile.TemporaryDirectory() as parent:
+        folder = pathlib.Path(parent, "zarpel")
+        shutil.copytree(pathlib.Path(program).parent, folder)
+        damage(folder)
+        with running([folder / pathlib.Path(program).name]) as process:
+            yield Game(process, folder)
