@@ -174,6 +174,7 @@ TEST_F(InputTest, PausesLastAndTheClockBarShowsNearTheBottomEdge) {
     pointAt(538);
     EXPECT_TRUE(bar.isVisible());
     EXPECT_EQ(bar.geometry().bottom(), client->height() - 1);
+    QTest::qWait(1100);  // the window has settled
     Window().resize(Window().width() + 100, Window().height() + 50);
     QCoreApplication::processEvents();
     EXPECT_EQ(bar.geometry().bottom(), client->height() - 1);

@@ -35,6 +35,7 @@ QtTable::QtTable() {
     }
     WritePicture(Folder.filePath("dibujo.jpg"), Qt::blue);
     Desktop.Pass(Game, [this] { Game.Load(); });
+    if (!QTest::qWaitForWindowExposed(&Window())) throw std::runtime_error("the window is not shown");
 }
 
 // As at the end of the program.
