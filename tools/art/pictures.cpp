@@ -31,23 +31,22 @@ void writeJpeg(const QString& path, const QImage& picture) {
 }
 
 struct Icon {
+    const char* source;
     const char* name;
     std::initializer_list<int> sizes;
 };
 
 const Icon kIcons[] = {
-    {"nuevo", {48, 96, 192}},
-    {"run", {48, 96, 192}},
-    {"salir", {48, 96, 192}},
-    {"acerca", {48, 96, 192}},
-    {"zarpel", {16, 22, 24, 32, 48, 64, 128, 256, 512}},
+    {"nuevo", "nuevo", {48, 96, 192}},        {"run", "run", {48, 96, 192}},
+    {"salir", "salir", {48, 96, 192}},        {"acerca", "acerca", {48, 96, 192}},
+    {"zarpel-chico", "zarpel", {16, 22, 24}}, {"zarpel", "zarpel", {32, 48, 64, 128, 256, 512}},
 };
 
 void drawIcons(const QString& from, const QString& to) {
-    for (const auto& icon : kIcons) {
-        const auto svg = readAll(from + '/' + icon.name + ".svg");
-        for (const int size : icon.sizes) {
-            writePng(QString("%1/%2-%3.png").arg(to, icon.name).arg(size), draw(svg, {size, size}));
+    for (const auto& [source, name, sizes] : kIcons) {
+        const auto svg = readAll(QString("%1/%2.svg").arg(from, source));
+        for (const int size : sizes) {
+            writePng(QString("%1/%2-%3.png").arg(to, name).arg(size), draw(svg, {size, size}));
         }
     }
 }
