@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QImageWriter>
 #include <QPainter>
+#include <QSet>
 #include <QSvgRenderer>
 #include <algorithm>
 #include <stdexcept>
@@ -70,50 +71,39 @@ QImage draw(const QByteArray& svg, QSize pixels) {
 }
 
 QImage withPalette(const QImage& picture) {
-    // The drawings have few flat colours and many mixtures along their edges: the 256 most frequent colours
-    // (told apart to 4 bits a channel) hold all of the former, and are near enough to the latter.
     const auto source = picture.convertToFormat(QImage::Format_ARGB32);
-    const auto coarse = [](QRgb colour) { return qAlpha(colour) == 0 ? 0 : colour & 0xF0F0F0F0; };
-    QHash<QRgb, QHash<QRgb, int>> counts;
-    QHash<QRgb, int> totals;
-    for (int y = 0; y < source.height(); ++y) {
-        for (int x = 0; x < source.width(); ++x) {
-            const auto colour = source.pixel(x, y);
-            ++counts[coarse(colour)][colour];
-            ++totals[coarse(colour)];
+    QHash<QRgb, int> counts;
+    const auto forEachPixel = [&](auto visit) {
+        for (int y = 0; y < source.height(); ++y) {
+            for (int x = 0; x < source.width(); ++x) visit(x, y, source.pixel(x, y));
         }
-    }
-    QList<QRgb> boxes = totals.keys();
-    std::sort(boxes.begin(), boxes.end(),
-              [&](QRgb a, QRgb b) { return totals[a] != totals[b] ? totals[a] > totals[b] : a < b; });
-    boxes.resize(std::min<qsizetype>(boxes.size(), 256));
+    };
+    forEachPixel([&](int, int, QRgb colour) { ++counts[colour]; });
+
+    // The drawings have few flat colours and many mixtures along their edges. The most frequent colours, told
+    // apart to 4 bits a channel, hold all of the former and are near enough to the latter.
+    auto colours = counts.keys();
+    std::sort(colours.begin(), colours.end(),
+              [&](QRgb a, QRgb b) { return counts[a] != counts[b] ? counts[a] > counts[b] : a < b; });
+    QSet<QRgb> taken;
     QList<QRgb> palette;
-    for (const auto box : boxes) {
-        const auto& shades = counts[box];
-        QRgb best = shades.begin().key();
-        for (auto shade = shades.begin(); shade != shades.end(); ++shade) {
-            const bool more =
-                shade.value() > shades[best] || (shade.value() == shades[best] && shade.key() < best);
-            if (more) best = shade.key();
-        }
-        palette << best;
+    for (const auto colour : colours) {
+        const auto coarse = colour & 0xF0F0F0F0;
+        if (palette.size() == 256 || taken.contains(coarse)) continue;
+        taken << coarse;
+        palette << colour;
     }
+
     QHash<QRgb, uchar> nearest;
+    for (const auto colour : colours) {
+        const auto closest = std::min_element(palette.cbegin(), palette.cend(), [&](QRgb a, QRgb b) {
+            return distance(a, colour) < distance(b, colour);
+        });
+        nearest[colour] = static_cast<uchar>(closest - palette.cbegin());
+    }
     QImage result(source.size(), QImage::Format_Indexed8);
     result.setColorTable(palette);
-    for (int y = 0; y < source.height(); ++y) {
-        for (int x = 0; x < source.width(); ++x) {
-            const auto colour = source.pixel(x, y);
-            auto known = nearest.constFind(colour);
-            if (known == nearest.cend()) {
-                const auto closest = std::min_element(palette.cbegin(), palette.cend(), [&](QRgb a, QRgb b) {
-                    return distance(a, colour) < distance(b, colour);
-                });
-                known = nearest.insert(colour, static_cast<uchar>(closest - palette.cbegin()));
-            }
-            result.scanLine(y)[x] = *known;
-        }
-    }
+    forEachPixel([&](int x, int y, QRgb colour) { result.scanLine(y)[x] = nearest[colour]; });
     return result;
 }
 
