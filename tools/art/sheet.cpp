@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
     const auto list = readAll(pictures.filePath("app/naipe.dat"));
     QList<QImage> cards;
     for (int i = 0; i < kCards; ++i) {
-        cards << load("app/" + list.mid(16 * i + 2, list[16 * i]));
+        cards << load("app/" + list.mid(qsizetype{16} * i + 2, list[qsizetype{16} * i]));
     }
 
     const int width = 10 * (kCardPixels.width() + kGap) + kGap;
