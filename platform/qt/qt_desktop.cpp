@@ -18,6 +18,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/files.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/help/help_window.h"
 #include "platform/qt/launcher.h"
 
 namespace zarpel {
@@ -173,7 +174,10 @@ double QtDesktop::Rnd() { return std::generate_canonical<double, 53>(generator_)
 
 // --- Other programs ---
 
-void QtDesktop::OpenHelp(const std::string& /*path*/) {}
+void QtDesktop::OpenHelp(const std::string& path) {
+    if (!help_) help_ = std::make_unique<HelpWindow>(SystemPath(path));
+    help_->Present();
+}
 
 void QtDesktop::Run(const std::string& commandLine) { Launch(commandLine); }
 

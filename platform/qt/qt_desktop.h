@@ -15,6 +15,8 @@
 
 namespace zarpel {
 
+class HelpWindow;
+
 class QtDesktop : public Desktop {
   public:
     // `folder` is the application folder. Needs a QApplication, which it gives the game's look.
@@ -72,7 +74,8 @@ class QtDesktop : public Desktop {
     Pictures pictures_;
     std::map<const Form*, EventGate> gates_;
     std::map<const Form*, ViewContext> contexts_;
-    std::vector<Opened> opened_;  // the lowest first
+    std::vector<Opened> opened_;        // the lowest first
+    std::unique_ptr<HelpWindow> help_;  // made when the player first asks for it
     std::mt19937_64 generator_;
 };
 

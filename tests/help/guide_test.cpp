@@ -14,7 +14,7 @@
 namespace zarpel {
 namespace {
 
-/// Every address that the page `html` leads to or shows.
+// Every address that the page `html` leads to or shows.
 QStringList AddressesIn(const QString& html) {
     static const QRegularExpression attribute(
         QStringLiteral("(?:href|src|background|data)\\s*=\\s*[\"']([^\"']*)[\"']"),

@@ -14,7 +14,7 @@ inline QByteArray BytesOf(const QString& file) {
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
 }
 
-/// A folder with one help file in it, whose bytes a test chooses.
+// A folder with one help file in it, whose bytes a test chooses.
 class Copy {
   public:
     QString Path() const { return folder_.filePath(QStringLiteral("ayuda.chm")); }

@@ -15,16 +15,16 @@ class HelpBrowser : public QTextBrowser {
   public:
     explicit HelpBrowser(QWidget* parent = nullptr);
 
-    /// Takes the file whose pages are shown from now on and forgets where the reader has been. Shows nothing
-    /// by itself.
+    // Takes the file whose pages are shown from now on and forgets where the reader has been. Shows nothing
+    // by itself.
     void SetFile(std::optional<HelpFile> file);
     const std::optional<HelpFile>& file() const { return file_; }
 
-    /// Letters and pictures at `percent` of their normal size, within sensible limits; the place in the page
-    /// is kept.
+    // Letters and pictures at `percent` of their normal size, within sensible limits; the place in the page
+    // is kept.
     void SetZoom(int percent);
     int zoom() const { return zoom_; }
-    /// Zooms by `steps` notches of a mouse wheel.
+    // Zooms by `steps` notches of a mouse wheel.
     void ZoomBy(int steps);
 
     QVariant loadResource(int type, const QUrl& name) override;

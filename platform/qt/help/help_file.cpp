@@ -52,7 +52,7 @@ int ExtractObject(chmFile* chm, chmUnitInfo* unit, void* context) {
     return CHM_ENUMERATOR_CONTINUE;
 }
 
-/// Every page, picture and table of the file, or nothing when one of them cannot be read.
+// Every page, picture and table of the file, or nothing when one of them cannot be read.
 QHash<QString, QByteArray> Extracted(const QString& file) {
     const std::unique_ptr<chmFile, decltype(&chm_close)> chm(chm_open(QFile::encodeName(file).constData()),
                                                              chm_close);

@@ -13,7 +13,7 @@
 
 namespace zarpel {
 
-/// One entry of the contents tree. Entries come in reading order; `depth` counts from 0.
+// One entry of the contents tree. Entries come in reading order; `depth` counts from 0.
 struct HelpTopic {
     QString title;
     QUrl page;  // empty for a heading without a page of its own
@@ -22,11 +22,11 @@ struct HelpTopic {
 
 class HelpFile {
   public:
-    /// Reads the help file at the path `file`. Nothing when there is no such file, or it is damaged, or
-    /// larger than any help of ours would be, or its first page is not in it.
+    // Reads the help file at the path `file`. Nothing when there is no such file, or it is damaged, or
+    // larger than any help of ours would be, or its first page is not in it.
     static std::optional<HelpFile> Open(const QString& file);
 
-    /// The address of an object of a help file: "chm:" and its path, which begins with "/".
+    // The address of an object of a help file: "chm:" and its path, which begins with "/".
     static QUrl Address(const QString& path);
 
     const QString& title() const { return title_; }
@@ -35,8 +35,8 @@ class HelpFile {
     QStringList paths() const { return objects_.keys(); }
 
     bool Has(const QUrl& address) const;
-    /// The bytes of the object at `address` (its anchor does not count). Empty when the file has no such
-    /// object.
+    // The bytes of the object at `address` (its anchor does not count). Empty when the file has no such
+    // object.
     QByteArray Object(const QUrl& address) const;
 
   private:
@@ -47,18 +47,18 @@ class HelpFile {
     QUrl firstPage_;
 };
 
-/// What the table "/#SYSTEM" of a help file says about it; texts are empty where it says nothing.
+// What the table "/#SYSTEM" of a help file says about it; texts are empty where it says nothing.
 struct HelpSystem {
     QString title;
     QString firstPage;
     QString contentsFile;
 };
 
-/// Reads that table. Takes any bytes; stops at the first entry that is cut off.
+// Reads that table. Takes any bytes; stops at the first entry that is cut off.
 HelpSystem ReadSystem(const QByteArray& source);
 
-/// Reads a contents tree in the form the help compiler takes and stores: nested lists of "text/sitemap"
-/// objects. Takes any text; what it does not understand it skips.
+// Reads a contents tree in the form the help compiler takes and stores: nested lists of "text/sitemap"
+// objects. Takes any text; what it does not understand it skips.
 std::vector<HelpTopic> ReadContents(const QByteArray& source);
 
 }  // namespace zarpel

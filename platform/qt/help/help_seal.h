@@ -10,10 +10,10 @@
 
 namespace zarpel {
 
-/// The help file `content` (as the help compiler wrote it) with its seal at the end.
+// The help file `content` (as the help compiler wrote it) with its seal at the end.
 QByteArray Sealed(const QByteArray& content);
 
-/// True when `file` ends in the seal that belongs to the bytes before it.
+// True when `file` ends in the seal that belongs to the bytes before it.
 bool IsSealed(const QByteArray& file);
 
 }  // namespace zarpel

@@ -205,7 +205,7 @@ void HelpWindow::FollowContents() {
     if (item != nullptr && !PageOf(item).isEmpty()) page_->setSource(PageOf(item));
 }
 
-/// Selects the entry of the page shown: the one with its anchor if there is one, else the page's own.
+// Selects the entry of the page shown: the one with its anchor if there is one, else the page's own.
 void HelpWindow::MarkPage(const QUrl& shown) {
     const QSignalBlocker quiet(contents_);
     QTreeWidgetItem* best = nullptr;

@@ -18,11 +18,11 @@ class HelpWindow : public QWidget {
     Q_OBJECT
 
   public:
-    /// A window for the help file at the path `file`, not shown yet.
+    // A window for the help file at the path `file`, not shown yet.
     explicit HelpWindow(const QString& file, QWidget* parent = nullptr);
 
-    /// Reads the file again and shows its first page, in front of the other windows. When the file is missing
-    /// or damaged the window says so, and nothing else happens.
+    // Reads the file again and shows its first page, in front of the other windows. When the file is missing
+    // or damaged the window says so, and nothing else happens.
     void Present();
 
   private:
