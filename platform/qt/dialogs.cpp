@@ -4,8 +4,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "platform/qt/colors.h"
 #include "platform/qt/files.h"
@@ -53,6 +55,16 @@ bool AskFile(QFileDialog& chooser, CommonDialog& dialog) {
     return true;
 }
 
+// A box breaks its lines after so many pixels, whatever the size of the letters; a short text stays on one
+// line all the same. `kWidest` is what fits beside the icon into the largest box that the toolkit makes.
+void KeepLines(QMessageBox& box) {
+    constexpr int kWidest = 700, kLetters = 50;
+    auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label) return;
+    const int letters = kLetters * box.fontMetrics().averageCharWidth();
+    label->setMinimumWidth(std::min({label->sizeHint().width(), letters, kWidest}));
+}
+
 }  // namespace
 
 Answer ShowMessage(QWidget* owner, const Message& message, const std::string& applicationTitle) {
@@ -61,6 +73,7 @@ Answer ShowMessage(QWidget* owner, const Message& message, const std::string& ap
     box.setText(QString::fromStdString(message.Text));
     box.setWindowTitle(QString::fromStdString(message.Title.empty() ? applicationTitle : message.Title));
     box.setIcon(IconOf(message.Icon));
+    KeepLines(box);
     if (message.Buttons == Buttons::Ok) {
         box.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
         box.exec();

@@ -6,7 +6,6 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QTranslator>
 #include <QWindow>
@@ -35,9 +34,9 @@ void SpeakSpanish() {
 
 }  // namespace
 
-QtDesktop::QtDesktop(std::string folder) : folder_(std::move(folder)) {
+QtDesktop::QtDesktop(std::string folder) : folder_(std::move(folder)), style_(new ScaledStyle) {
     SpeakSpanish();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(style_);
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setApplicationDisplayName(QString());
     QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
@@ -97,6 +96,7 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
 
 void QtDesktop::UseScale(const QSize& client) {
     scale_.FitTo(client);
+    style_->Use(scale_);
     QApplication::setFont(FontOf({}, scale_));
 }
 

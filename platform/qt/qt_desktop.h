@@ -12,6 +12,7 @@
 #include "platform/qt/form_window.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/scale.h"
+#include "platform/qt/scaled_style.h"
 
 namespace zarpel {
 
@@ -70,6 +71,7 @@ class QtDesktop : public Desktop {
     QWidget* TopWindow() const;
 
     std::string folder_;
+    ScaledStyle* style_;  // the application's, which owns it
     Scale scale_;
     Pictures pictures_;
     std::map<const Form*, EventGate> gates_;
