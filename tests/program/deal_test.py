@@ -71,13 +71,18 @@ class Deal:
     def play(self):
         """Until the results window is open; gives that."""
         while True:
-            event = wait(self.event, "the next move")
+            event = self.next()
             if event.name == "Resultados":
                 return event
-            if event.name == "Playing":
-                self.move(event)
-            else:
-                self.read(event)
+            self.move(event)
+
+    def next(self):
+        """Reads all boxes; gives the results window, or the table when it is the player's turn."""
+        while True:
+            event = wait(self.event, "the next move")
+            if event.name in ("Resultados", "Playing"):
+                return event
+            self.read(event)
 
     def event(self):
         """What the player can react to: a box, the results window, or the table when it is the player's turn."""
@@ -85,7 +90,9 @@ class Deal:
         other = running.box() or running.results()
         if other:
             return other
-        table = running.table()
+        if not running.table().humans_turn():
+            return None
+        table = running.table()  # the first look may have begun while the computer moved
         return table if table.active and table.humans_turn() and table.cards("mano") else None
 
     def read(self, box):
@@ -161,7 +168,7 @@ def main():
         hands.close(results)
         wait(lambda: not running.results(), "the results window to close")
         wait(lambda: running.table().points() == points, f"the points {points}")
-        table = wait(lambda: deal.event(), "the next deal")
+        table = deal.next()
         assert len(table.cards("mano")) == 3
         hands.leave(running, table)
         assert running.process.wait(10) == 0
