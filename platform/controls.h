@@ -122,7 +122,8 @@ class Label : public Control {
     Property<int> MaxWidth{*this};   // 0: up to the container's edge
     Property<bool> WordWrap{*this};
     Property<Alignment> Align{*this};
-    bool Announced = false;  // a screen reader is told when the caption changes
+    std::string SpokenAs;    // what a screen reader calls it; empty: its caption
+    bool Announced = false;  // a screen reader is told when the caption changes, once the event is over
     std::function<void()> Click;
 };
 

@@ -41,7 +41,8 @@ class Desktop {
     virtual std::string Title() const = 0;
     // The folder that holds the executable, without a separator at its end. Never fails.
     virtual std::string Folder() const = 0;
-    // Ends the program at once with this exit status: no handler goes on, no window is asked. Does not return.
+    // Ends the program at once with this exit status: no handler goes on, no window is asked. Does not
+    // return.
     [[noreturn]] void End(int status) {
         Leave(status);
         std::abort();

@@ -43,6 +43,10 @@ void preferenciasfrm::Design() {
          {{Label9, {960, 600, 600, 195}, "Reverso"},
           {.Control = Label8, .At = {120, 960, 2415, 255}, .BackColor = SystemColor(kHighlightText)}});
     Draw(Frame3, {{.Control = Label5, .At = {120, 240, 690, 195}, .AutoSize = true, .MaxWidth = 5175}});
+    Label1.SpokenAs = "Fondo";
+    Label6.SpokenAs = "Fondo Rect.";
+    Label8.SpokenAs = "Reverso";
+    Label5.SpokenAs = "Aplicacion de fondo";
     Draw(pagina, {{Command1, {60, 3120, 1215, 495}, "Default"}});
     Draw(*this,
          {{cmdOK, {3690, 4455, 1095, 375}, "Aceptar"}, {cmdCancel, {4920, 4455, 1095, 375}, "Cancelar"}});

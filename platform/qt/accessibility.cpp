@@ -9,19 +9,21 @@
 namespace zarpel {
 namespace {
 
-class AccessibleImage : public QAccessibleWidget {
+// A picture, or a label that can be clicked.
+class AccessiblePressable : public QAccessibleWidget {
   public:
-    explicit AccessibleImage(ImageView* view) : QAccessibleWidget(view, QAccessible::Graphic), view_(view) {}
+    AccessiblePressable(QWidget* widget, View& view, QAccessible::Role role)
+        : QAccessibleWidget(widget, role), view_(view) {}
 
     QStringList actionNames() const override {
-        return view_->Pressable() ? QStringList(pressAction()) : QStringList();
+        return view_.Pressable() ? QStringList(pressAction()) : QStringList();
     }
     void doAction(const QString& name) override {
-        if (name == pressAction() && view_->Pressable()) view_->Press();
+        if (name == pressAction() && view_.Pressable()) view_.Press();
     }
 
   private:
-    ImageView* view_;
+    View& view_;
 };
 
 // A widget whose hidden children are not there at all. By default they would be found, only marked as hidden.
@@ -49,7 +51,12 @@ class AccessibleArea : public QAccessibleWidget {
 };
 
 QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
-    if (auto* const image = dynamic_cast<ImageView*>(object)) return new AccessibleImage(image);
+    if (auto* const image = dynamic_cast<ImageView*>(object)) {
+        return new AccessiblePressable(image, *image, QAccessible::Graphic);
+    }
+    if (auto* const label = dynamic_cast<LabelView*>(object); label && label->Pressable()) {
+        return new AccessiblePressable(label, *label, QAccessible::Button);
+    }
     if (auto* const area = dynamic_cast<AreaView*>(object)) return new AccessibleArea(area);
     if (auto* const client = dynamic_cast<ClientArea*>(object)) return new AccessibleArea(client);
     return nullptr;

@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -19,6 +21,9 @@ namespace zarpel {
 LabelView::LabelView(Label& label, const ViewContext& context, QWidget* parent)
     : ControlView(label, context, parent) {
     setTextFormat(Qt::PlainText);
+    if (Pressable()) setFocusPolicy(Qt::TabFocus);
+    saying_.setSingleShot(true);
+    connect(&saying_, &QTimer::timeout, this, [this] { Say(); });
 }
 
 // Where the label stands. One that is sized to its text keeps the edge, or the middle, that its alignment
@@ -49,9 +54,23 @@ void LabelView::Sync() {
     // What is hard to read is said by the tooltip.
     const bool small = fitted.Font.pixelSize() < wanted.pixelSize() || drawn_ != caption;
     if (small) setToolTip(Qt::convertFromPlainText(caption));
-    // Setting the text tells a screen reader, so only a new one is set.
-    if (caption != text()) setText(caption);
+    // While the computer thinks, the sum changes with every card that it tries, those of its hand included. A
+    // screen reader is told what stands when the event loop goes on.
+    if (control_.Announced) {
+        saying_.start();
+    } else {
+        Say();
+    }
     update();
+}
+
+// Setting the text tells a screen reader, so only a new one is set.
+void LabelView::Say() {
+    const QString caption = QString::fromStdString(control_.Caption);
+    if (caption != text()) setText(caption);
+    if (control_.SpokenAs.empty()) return;
+    setAccessibleName(QString::fromStdString(control_.SpokenAs));
+    setAccessibleDescription(caption);
 }
 
 void LabelView::paintEvent(QPaintEvent*) {
@@ -64,11 +83,20 @@ void LabelView::paintEvent(QPaintEvent*) {
                                                             : Qt::AlignLeft;
     const int wrap = control_.WordWrap ? Qt::TextWordWrap : Qt::TextSingleLine;
     painter.drawText(rect(), across | (control_.Border ? Qt::AlignVCenter : Qt::AlignTop) | wrap, drawn_);
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+}
+
+void LabelView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Space || !Pressable()) return QLabel::keyPressEvent(event);
+    Press();
 }
 
 void LabelView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-        Raise(control_.Click);
+        Press();
     }
 }
 

@@ -34,6 +34,10 @@ class View {
 
     // Brings the widget into step with its control.
     virtual void Sync() = 0;
+
+    // A view that can be pressed takes Press for a click of the pointer.
+    virtual bool Pressable() const { return false; }
+    virtual void Press() {}
 };
 
 // A view is one of these with its widget class: it takes place, visibility, enabled state and tooltip from
@@ -78,9 +82,8 @@ class ImageView : public ControlView<QWidget, Image> {
     void Sync() override;
     // The view of a picture that this one covers while it is shown.
     void Covers(ImageView& covered) { covered_.push_back(&covered); }
-    // As a click of the pointer does.
-    void Press() { Raise(control_.Click); }
-    bool Pressable() const { return control_.Click && control_.Enabled; }
+    bool Pressable() const override { return control_.Click && control_.Enabled; }
+    void Press() override { Raise(control_.Click); }
 
   protected:
     bool Shown() const override;
@@ -103,13 +106,19 @@ class LabelView : public ControlView<QLabel, Label> {
   public:
     LabelView(Label& label, const ViewContext& context, QWidget* parent);
     void Sync() override;
+    bool Pressable() const override { return control_.Click != nullptr; }
+    void Press() override { Raise(control_.Click); }
 
   protected:
     void paintEvent(QPaintEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
 
   private:
     QRect Room(const QFont& font) const;
+    void Say();
+
+    QTimer saying_;
 
     QString drawn_;  // the caption, or as much of it as there is room for
 };
