@@ -201,13 +201,10 @@ class TabStrip : public Control {
 };
 
 // A menu entry, or a menu when it has entries.
-struct Menu : Observed {
-    explicit Menu(std::string caption = {}) : Caption(std::move(caption)) {}
-
+struct Menu {
     std::string Caption;
-    Property<bool> Enabled{*this, true};
-    std::vector<Menu*> Entries;
-    std::function<void()> Click;
+    std::vector<Menu*> Entries = {};
+    std::function<void()> Click = nullptr;
 };
 
 // The component behind a window's file and colour choosers. It remembers what was chosen through it.
