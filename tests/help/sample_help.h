@@ -1,9 +1,8 @@
-// The help file that the build made, and damaged copies of it.
+// The help file that the build made, and the bytes of files.
 #pragma once
 
 #include <QFile>
 #include <QString>
-#include <QTemporaryDir>
 
 namespace zarpel {
 
@@ -14,19 +13,9 @@ inline QByteArray BytesOf(const QString& file) {
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
 }
 
-// A folder with one help file in it, whose bytes a test chooses.
-class Copy {
-  public:
-    QString Path() const { return folder_.filePath(QStringLiteral("ayuda.chm")); }
-
-    void Write(const QByteArray& bytes) const {
-        QFile out(Path());
-        if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
-            qFatal("no room for test files");
-    }
-
-  private:
-    QTemporaryDir folder_;
-};
+inline void WriteBytes(const QString& file, const QByteArray& bytes) {
+    QFile out(file);
+    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) qFatal("no room for a file");
+}
 
 }  // namespace zarpel
