@@ -1,19 +1,9 @@
 #include "tests/qt/qt_table.h"
 
-#include <QFile>
-
 #include "engine/classnaipe.h"
+#include "platform/qt/files.h"
 
 namespace zarpel {
-namespace {
-
-void WriteFile(const QString& path, const std::string& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-}
-
-}  // namespace
 
 void WritePicture(const QString& path, const QColor& color, const QSize& size) {
     QImage picture(size, QImage::Format_RGB32);
@@ -25,15 +15,14 @@ QColor ColorOfCard(int carta) { return {200, 6 * carta, 40}; }
 
 // The installation of the scripted desktop, with real pictures.
 QtTable::QtTable() {
-    const ScriptedDesktop scripted;
-    for (const auto& [path, bytes] : scripted.Files) {
-        WriteFile(Folder.filePath(QString::fromStdString(path).section('\\', -1)), bytes);
-    }
+    const auto here = [this](const std::string& path) {
+        return Folder.filePath(QString::fromStdString(path).section('\\', -1));
+    };
+    for (const auto& [path, bytes] : ScriptedDesktop().Files) ReplaceFile(here(path).toStdString(), bytes);
     for (int carta = 1; carta <= classnaipe::kCartas; ++carta) {
-        const QString name = QString::fromStdString(CardPicture(carta)).section('\\', -1);
-        WritePicture(Folder.filePath(name), ColorOfCard(carta));
+        WritePicture(here(CardPicture(carta)), ColorOfCard(carta));
     }
-    WritePicture(Folder.filePath("dibujo.jpg"), Qt::blue);
+    WritePicture(here("dibujo.jpg"), Qt::blue);
     Desktop.Pass(Game, [this] { Game.Load(); });
     if (!QTest::qWaitForWindowExposed(&Window())) throw std::runtime_error("the window is not shown");
 }
@@ -47,28 +36,9 @@ QtTable::~QtTable() {
     QApplication::exec();
 }
 
-QPoint QtTable::Middle(Control& control, QWidget& container) {
-    const Scale scale;
-    return container.mapTo(&Window(), scale.Pixels(PlaceOf(control)).center());
-}
-
 QPoint QtTable::Middle(Image& image) {
-    auto& view = ViewOf<ImageView>(image);
-    return Middle(image, *view.parentWidget());
-}
-
-QPoint QtTable::BareTable() { return ViewOf<AreaView>(Game.Frame1).mapTo(&Window(), QPoint(5, 5)); }
-
-void QtTable::Click(const QPoint& at, Qt::MouseButton button) {
-    QTest::mouseClick(Window().windowHandle(), button, {}, at);
-}
-
-void QtTable::Drag(const QPoint& from, const QPoint& to) {
-    QWindow* const window = Window().windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, from);
-    QTest::mouseMove(window, (from + to) / 2);
-    QTest::mouseMove(window, to);
-    QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+    const auto& view = ViewOf<ImageView>(image);
+    return view.mapTo(&Window(), view.rect().center());
 }
 
 void QtTable::Key(Qt::Key key, quint32 scanCode, Qt::KeyboardModifiers modifiers, bool repeats) {

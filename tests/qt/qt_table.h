@@ -39,27 +39,23 @@ class QtTable : public testing::Test {
 
     FormWindow& Window() { return *Desktop.WindowOf(Game); }
 
-    // The widget that draws a control.
+    // The widget that draws a control, in any window.
     template <class ViewClass, class Model>
-    static ViewClass& ViewOf(Model& control, QWidget& window) {
-        for (auto* const widget : window.findChildren<QWidget*>()) {
+    static ViewClass& ViewOf(Model& control) {
+        for (auto* const widget : QApplication::allWidgets()) {
             auto* const view = dynamic_cast<ViewClass*>(widget);
             if (view && &view->Control() == &control) return *view;
         }
         throw std::logic_error("no view");
     }
-    template <class ViewClass, class Model>
-    ViewClass& ViewOf(Model& control) {
-        return ViewOf<ViewClass>(control, Window());
-    }
 
-    // Where the middle of a place stands in the window, shown or not.
-    QPoint Middle(Control& control, QWidget& container);
+    // Where the middle of a picture's place stands in the window, shown or not.
     QPoint Middle(Image& image);
-    QPoint BareTable();
+    QPoint BareTable() { return ViewOf<AreaView>(Game.Frame1).mapTo(&Window(), QPoint(5, 5)); }
 
-    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
-    void Drag(const QPoint& from, const QPoint& to);
+    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(Window().windowHandle(), button, {}, at);
+    }
     void Key(Qt::Key key, quint32 scanCode = 0, Qt::KeyboardModifiers modifiers = {}, bool repeats = false);
 
     // What the player does in the next modal window; called while that is open.
