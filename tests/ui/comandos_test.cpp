@@ -7,56 +7,53 @@
 namespace zarpel {
 namespace {
 
+using Do = std::function<void(Playing&)>;
+
 Message Ask(const std::string& text, Icon icon) {
     return {text, icon, "Nuevo Jugador", Buttons::YesNo, Answer::No};
 }
-const Message kMenu = Ask("Esta accion terminara con el juego actual, continuar?", Icon::Exclamation);
-const Message kNew = Ask("Esta accion terminara con el juego actual\n¿continuar?", Icon::Question);
-const Message kLeave = Ask("Esta accion terminara con la aplicacion\n¿continuar?", Icon::Question);
-const Message kFarewell = {"CHAU!"};
-const std::string kPrompt = "input Ingrese su Nick Name|Nuevo Jugador|Humano";
-const std::string kSaved = "write C:\\Zarpel\\lastprop.dat";
-const std::string kHelp = "help C:\\Zarpel\\ayuda.chm";
-
-enum class After { SameMatch, NewMatch, Closed };
-
-struct Command {
-    std::function<void(Playing&)> Do;
-    std::vector<Message> Boxes;
-    Answer Pressed;
-    After Then;
-    std::string Typed;
-    std::vector<std::string> Calls;  // after the boxes
-};
-
-auto Tool(const char* key) {
+Do Tool(const char* key) {
     return [key](Playing& window) { window.Toolbar1.ButtonClick(key); };
 }
-auto Entry(Menu Playing::*entry) {
+Do Entry(Menu Playing::*entry) {
     return [entry](Playing& window) { (window.*entry).Click(); };
 }
 
 TEST(Comandos, AskAndCallInOrder) {
+    const Message menu = Ask("Esta accion terminara con el juego actual, continuar?", Icon::Exclamation);
+    const Message fresh = Ask("Esta accion terminara con el juego actual\n¿continuar?", Icon::Question);
+    const Message leave = Ask("Esta accion terminara con la aplicacion\n¿continuar?", Icon::Question);
+    const Message farewell = {"CHAU!"};
+    const std::string prompt = "input Ingrese su Nick Name|Nuevo Jugador|Humano";
+    const std::string saved = "write C:\\Zarpel\\lastprop.dat", help = "help C:\\Zarpel\\ayuda.chm";
     constexpr auto kYes = Answer::Yes, kNo = Answer::No;
-    constexpr auto kSame = After::SameMatch, kNewMatch = After::NewMatch, kClosed = After::Closed;
-    const Command commands[] = {
-        {Tool("Nuevo"), {kNew}, kNo, kSame, "", {}},
-        {Tool("Nuevo"), {kNew}, kYes, kNewMatch, "", {}},
-        {Tool("Run"), {}, kNo, kSame, "", {"run Click Here"}},
-        {Tool("Salir"), {kLeave}, kNo, kSame, "", {}},
-        {Tool("Salir"), {kLeave}, kYes, kClosed, "", {kSaved, "end 0"}},
-        {Entry(&Playing::Nuevomnu), {}, kNo, kNewMatch, "", {}},
-        {Entry(&Playing::nombremnu), {kMenu}, kNo, kSame, "", {}},
-        {Entry(&Playing::nombremnu), {kMenu}, kYes, kNewMatch, "", {kPrompt}},
-        {Entry(&Playing::nombremnu), {kMenu}, kYes, kNewMatch, "Ñusta", {kPrompt, kSaved}},
-        {Entry(&Playing::preferenciasmnu), {}, kNo, kSame, "", {"modal Opciones"}},
-        {Entry(&Playing::salir), {kFarewell}, kNo, kClosed, "", {}},
-        {[](Playing& window) { window.Form_QueryClose(); }, {kFarewell}, kNo, kClosed, "", {}},
-        {Entry(&Playing::contenidosmnu), {}, kNo, kSame, "", {kHelp}},
-        {[](Playing& window) { window.Form_KeyDown(kKeyF1, 0); }, {}, kNo, kSame, "", {kHelp}},
-        {Entry(&Playing::acercamnu), {}, kNo, kSame, "", {"modal Acerca de Zarpel"}},
+    enum After { kSame, kNewMatch, kClosed };
+    const struct {
+        zarpel::Do Do;
+        std::vector<Message> Boxes;
+        Answer Pressed;
+        After Then;
+        std::vector<std::string> Calls = {};  // after the boxes
+        std::string Typed = {};
+    } commands[] = {
+        {Tool("Nuevo"), {fresh}, kNo, kSame},
+        {Tool("Nuevo"), {fresh}, kYes, kNewMatch},
+        {Tool("Run"), {}, kNo, kSame, {"run Click Here"}},
+        {Tool("Salir"), {leave}, kNo, kSame},
+        {Tool("Salir"), {leave}, kYes, kClosed, {saved, "end 0"}},
+        {Entry(&Playing::Nuevomnu), {}, kNo, kNewMatch},
+        {Entry(&Playing::nombremnu), {menu}, kNo, kSame},
+        {Entry(&Playing::nombremnu), {menu}, kYes, kNewMatch, {prompt}},
+        {Entry(&Playing::nombremnu), {menu}, kYes, kNewMatch, {prompt, saved}, "Ñusta"},
+        {Entry(&Playing::preferenciasmnu), {}, kNo, kSame, {"modal Opciones"}},
+        {Entry(&Playing::salir), {farewell}, kNo, kClosed},
+        {&Playing::Form_QueryClose, {farewell}, kNo, kClosed},
+        {&Playing::Form_DblClick, {}, kNo, kSame},
+        {Entry(&Playing::contenidosmnu), {}, kNo, kSame, {help}},
+        {[](Playing& window) { window.Form_KeyDown(kKeyF1, 0); }, {}, kNo, kSame, {help}},
+        {Entry(&Playing::acercamnu), {}, kNo, kSame, {"modal Acerca de Zarpel"}},
     };
-    for (const Command& command : commands) {
+    for (const auto& command : commands) {
         SCOPED_TRACE(&command - commands);
         Table table;
         table.Desktop.Answers = {command.Pressed};
@@ -69,7 +66,7 @@ TEST(Comandos, AskAndCallInOrder) {
         }
         std::vector<std::string> calls = command.Calls;
         for (const Message& box : command.Boxes) calls.insert(calls.begin(), "box " + box.Text);
-        EXPECT_EQ(table.Desktop.TakeCalls(), calls);
+        EXPECT_EQ(table.Desktop.Calls, calls);
         EXPECT_EQ(table.Desktop.Boxes, command.Boxes);
         EXPECT_EQ(table.Window.puntajeP2Lbl.Caption.get(), command.Then == kNewMatch ? "0" : "7");
         EXPECT_EQ(table.Desktop.Shown.empty(), command.Then == kClosed);

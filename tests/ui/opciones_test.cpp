@@ -11,10 +11,6 @@ using Texts = std::vector<std::string>;
 using Dialog = preferenciasfrm;
 
 constexpr ColorCode kRed = Rgb(255, 0, 0), kFace = SystemColor(kButtonFace);
-const std::string kCat = "C:\\fotos\\gato.jpg", kOther = "C:\\juegos\\otro juego.exe";
-const std::string kPrograms = "open (*.exe)|*.exe|(*.bat)|*.bat|(*.com)|*.com|Todos(*.*)|*.* ";
-const std::string kPictures = "open Imagenes(*.jpg ;*.bmp)|*.jpg;*.bmp ";
-const Message kRestart = {"Este cambio tendra efecto cuando reinicie el juego"};
 
 // Those of the defaults that come with the game, but for what a test says.
 struct Values {
@@ -35,48 +31,44 @@ void Open(Table& table, const std::function<void(Dialog&)>& play) {
     table.Window.preferenciasmnu.Click();
 }
 
-void ClickOn(Dialog& dialog, char which) {
-    const std::map<char, std::function<void()>*> clicks = {{'1', &dialog.Label1.Click},
-                                                           {'3', &dialog.Frame3.Click},
-                                                           {'5', &dialog.Label5.Click},
-                                                           {'6', &dialog.Label6.Click},
-                                                           {'8', &dialog.Label8.Click}};
-    (*clicks.at(which))();
-}
-
 TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
+    const std::string cat = "C:\\fotos\\gato.jpg", game = "C:\\juegos\\otro juego.exe";
+    const std::string programs = "open (*.exe)|*.exe|(*.bat)|*.bat|(*.com)|*.com|Todos(*.*)|*.* ";
+    const std::string pictures = "open Imagenes(*.jpg ;*.bmp)|*.jpg;*.bmp ";
+    const Message restart = {"Este cambio tendra efecto cuando reinicie el juego"};
+    enum Part { kFondo, kRectangulo, kAplicacion, kReverso, kMarco };
     const struct {
-        std::string Clicks;  // digits of the controls' names
+        std::vector<Part> Clicks;
         std::deque<std::optional<ColorCode>> Colors;
         std::deque<std::string> Chosen;
         Values Then;
         Texts Calls;
     } choices[] = {
-        {"16", {kRed, kFace}, {}, {kRed, kFace}, {"color 0", "color 255"}},
-        {"1", {}, {}, {.Fondo = 0}, {"color 0"}},
-        {"61", {kRed}, {}, {kRed, kRed}, {"color 0", "color 255"}},
-        {"3", {}, {}, {.Aplicacion = ""}, {kPrograms}},
-        {"558", {}, {kOther}, {.Aplicacion = kOther}, {kPrograms, kPrograms + kOther, kPictures + kOther}},
-        {"8", {}, {}, {}, {kPictures}},
-        {"85",
-         {},
-         {kCat},
-         {.Aplicacion = kCat, .Reverso = kCat},
-         {kPictures, "box " + kRestart.Text, kPrograms + kCat}},
+        {{kFondo, kRectangulo}, {kRed, kFace}, {}, {kRed, kFace}, {"color 0", "color 255"}},
+        {{kFondo}, {}, {}, {.Fondo = 0}, {"color 0"}},
+        {{kRectangulo, kFondo}, {kRed}, {}, {kRed, kRed}, {"color 0", "color 255"}},
+        {{kMarco}, {}, {}, {.Aplicacion = ""}, {programs}},
+        {{kAplicacion, kReverso}, {}, {game}, {.Aplicacion = game}, {programs, pictures + game}},
+        {{kReverso}, {}, {cat}, {.Reverso = cat}, {pictures, "box " + restart.Text}},
+        {{kAplicacion, kMarco}, {}, {game}, {.Aplicacion = game}, {programs, programs + game}},
     };
     const std::function<void(Dialog&)> ways[] = {[](Dialog& dialog) { dialog.cmdOK.Click(); },
                                                  [](Dialog& dialog) { dialog.cmdCancel.Click(); },
-                                                 [](Dialog& dialog) { dialog.Form_QueryClose(); }};
+                                                 &Dialog::Form_QueryClose};
     for (const auto& leave : ways) {
         const bool accepts = &leave == ways;
         for (const auto& choice : choices) {
-            SCOPED_TRACE(choice.Clicks + (accepts ? ", accepted" : ", not accepted"));
+            SCOPED_TRACE(::testing::Message()
+                         << (&choice - choices) << (accepts ? " accepted" : " not accepted"));
             Table table;
-            table.Desktop.Files[kCat] = "";
+            table.Desktop.Files[cat] = "";
             table.Desktop.Colors = choice.Colors;
             table.Desktop.Chosen = choice.Chosen;
             Open(table, [&](Dialog& dialog) {
-                for (const char which : choice.Clicks) ClickOn(dialog, which);
+                std::function<void()>* const parts[] = {&dialog.Label1.Click, &dialog.Label6.Click,
+                                                        &dialog.Label5.Click, &dialog.Label8.Click,
+                                                        &dialog.Frame3.Click};
+                for (const Part part : choice.Clicks) (*parts[part])();
                 EXPECT_EQ(Of(dialog), choice.Then);
                 EXPECT_EQ(Of(table.Window), Values{});
                 leave(dialog);
@@ -86,7 +78,7 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
             calls.insert(calls.begin(), "modal Opciones");
             if (accepts) calls.push_back("write C:\\Zarpel\\lastprop.dat");
             EXPECT_EQ(table.Desktop.TakeCalls(), calls);
-            for (const Message& box : table.Desktop.Boxes) EXPECT_EQ(box, kRestart);
+            for (const Message& box : table.Desktop.Boxes) EXPECT_EQ(box, restart);
             EXPECT_EQ(Of(table.Window), accepts ? choice.Then : Values{});
             table.Desktop.Draws = {0.0};  // the human moves first
             table.Window.ResetGame();     // reads the file again
@@ -96,44 +88,41 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
 }
 
 TEST(Opciones, DefaultReachesTheTableAtOnceAndLastsUntilTheNextMatch) {
-    const std::string lines = "\"Otro\"\r\n\"juego\"\r\n255\r\n";
-    const struct {
-        std::string File;
-        Values Then;
-        Texts Boxes;
-    } cases[] = {{lines + "-2147483633\r\n\"\"\r\n", {kRed, kFace, "juego"}, {}},
-                 {lines,
-                  {.Fondo = kRed, .Aplicacion = "juego"},
-                  {"El archivo de propiedades no existe o esta dañado"}}};
-    for (const auto& [file, then, boxes] : cases) {
-        Table table;
-        table.Desktop.Files[PathOf("pordefecto.dat")] = file;
-        Open(table, [&, &then = then](Dialog& dialog) {
-            dialog.Command1.Click();
-            EXPECT_EQ(Of(dialog), then);
-        });
-        EXPECT_EQ(Of(table.Window), then);
-        EXPECT_EQ(table.Desktop.TakeBoxTexts(), boxes);
-        EXPECT_EQ(Naipes->Nombrejugador() + table.Window.namelbl.Caption.get(), "OtroHumano");
-        table.Window.ResetGame();
-        EXPECT_EQ(Of(table.Window), Values{});
-    }
+    Table table;
+    table.Desktop.Files[PathOf("pordefecto.dat")] = "\"Otro\"\r\n\"juego\"\r\n255\r\n-2147483633\r\n\"\"\r\n";
+    Open(table, [&](Dialog& dialog) {
+        EXPECT_TRUE(dialog.CenterOnScreen && dialog.cmdCancel.Cancel);  // Escape
+        dialog.Command1.Click();
+        EXPECT_EQ(Of(dialog), (Values{kRed, kFace, "juego"}));
+    });
+    EXPECT_EQ(Of(table.Window), (Values{kRed, kFace, "juego"}));
+    EXPECT_EQ(table.Desktop.Boxes.size(), 0U);
+    EXPECT_EQ(Naipes->Nombrejugador() + table.Window.namelbl.Caption.get(), "OtroHumano");
+    table.Window.ResetGame();
+    EXPECT_EQ(Of(table.Window), Values{});
 }
 
-TEST(Opciones, StandsInTheMiddleAndTurnsItsPagesOnControlTab) {
-    Table table;
-    Open(table, [](Dialog& dialog) {
-        EXPECT_TRUE(dialog.CenterOnScreen && dialog.Left == (28800 - 6150) / 2 && dialog.Top == 5640);
-        EXPECT_TRUE(dialog.cmdCancel.Cancel);  // Escape
-        dialog.tbsOptions.Tabs.push_back({"Otra", ""});
-        const Frame& page = dialog.picOptions[0];
-        for (const int shift : {0, kCtrl | kShift}) dialog.Form_KeyDown(kKeyTab, shift);
-        EXPECT_TRUE(dialog.tbsOptions.Selected == 1 && page.Enabled);
-        dialog.Form_KeyDown(kKeyTab, kCtrl);
-        EXPECT_TRUE(dialog.tbsOptions.Selected == 2 && page.Left == -20000 && !page.Enabled);
-        dialog.Form_KeyDown(kKeyTab, kCtrl);
-        EXPECT_TRUE(dialog.tbsOptions.Selected == 1 && page.Left == 210 && page.Enabled);
-    });
+TEST(Dorsos, FallBackOnTheGamesOwn) {
+    const std::string propio = PathOf("dibujo.jpg"), mio = PathOf("mio.jpg"), old = ":/dorso.jpg";
+    const struct {
+        std::string Wanted;
+        Texts Present;
+        std::string Shown, Tag;
+    } cases[] = {{"", {propio}, propio, ""},
+                 {mio, {propio, mio}, mio, mio},
+                 {mio, {propio}, propio, propio},
+                 {mio, {}, old, propio}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Shown + " for " + c.Wanted);
+        Table table;
+        table.Desktop.Files.erase(propio);
+        for (const std::string& path : c.Present) table.Desktop.Files[path] = "";
+        for (Image& dorso : table.Window.fondop1img) dorso.Picture = old;
+        table.Window.fondop1img[0].Tag = c.Wanted;
+        table.Window.CargaDorsos();
+        for (const Image& dorso : table.Window.fondop1img) EXPECT_EQ(dorso.Picture.get(), c.Shown);
+        EXPECT_EQ(table.Window.fondop1img[0].Tag.get(), c.Tag);
+    }
 }
 
 }  // namespace
