@@ -102,26 +102,15 @@ TEST(Opciones, DefaultReachesTheTableAtOnceAndLastsUntilTheNextMatch) {
     EXPECT_EQ(Of(table.Window), Values{});
 }
 
-TEST(Dorsos, FallBackOnTheGamesOwn) {
-    const std::string propio = PathOf("dibujo.jpg"), mio = PathOf("mio.jpg"), old = ":/dorso.jpg";
-    const struct {
-        std::string Wanted;
-        Texts Present;
-        std::string Shown, Tag;
-    } cases[] = {{"", {propio}, propio, ""},
-                 {mio, {propio, mio}, mio, mio},
-                 {mio, {propio}, propio, propio},
-                 {mio, {}, old, propio}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Shown + " for " + c.Wanted);
+TEST(Dorsos, AMissingPictureIsReplacedByTheGamesOwn) {
+    for (const bool present : {true, false}) {
+        const std::string mine = PathOf("mio.jpg"), shown = present ? mine : PathOf("dibujo.jpg");
         Table table;
-        table.Desktop.Files.erase(propio);
-        for (const std::string& path : c.Present) table.Desktop.Files[path] = "";
-        for (Image& dorso : table.Window.fondop1img) dorso.Picture = old;
-        table.Window.fondop1img[0].Tag = c.Wanted;
+        if (present) table.Desktop.Files[mine] = "";
+        table.Window.fondop1img[0].Tag = mine;
         table.Window.CargaDorsos();
-        for (const Image& dorso : table.Window.fondop1img) EXPECT_EQ(dorso.Picture.get(), c.Shown);
-        EXPECT_EQ(table.Window.fondop1img[0].Tag.get(), c.Tag);
+        for (const Image& dorso : table.Window.fondop1img) EXPECT_EQ(dorso.Picture.get(), shown);
+        EXPECT_EQ(table.Window.fondop1img[0].Tag.get(), shown);
     }
 }
 
