@@ -1,4 +1,4 @@
-// A player who tries anything, legal or not, and repeats with the seed.
+// A player who tries anything that a hand can do at the table, legal or not, and repeats with the seed.
 #pragma once
 
 #include <random>
@@ -9,19 +9,29 @@ namespace zarpel {
 
 class RandomPlayer {
   public:
-    RandomPlayer(Playing& window, unsigned seed) : window_(window), generator_(seed) {}
+    RandomPlayer(Playing& window, unsigned seed) : window_(window), random_(seed) {}
 
-    // One click on a card, one "&Tomar Cartas", or one card of the hand dropped on the table.
-    void Act();
+    int Below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
+
+    void Act() {
+        const Slot any = window_.SlotDePosicion(Below(kPosiciones) + 1);
+        const int what = Below(10);
+        if (what == 0) return window_.Form_KeyDown(Below(256), Below(8));
+        if (what == 1) return window_.Form_MouseMove(Below(12000), Below(9000));
+        if (what == 2) return window_.Frame1.DragDrop(window_.SlotHumano(Below(kLugaresMano)).Imagen);
+        if (what == 3) return window_.LevantarBtn.Click();  // as "L" does
+        if (what == 4) return any.Imagen.Click ? any.Imagen.Click() : void();
+        window_.Form_KeyDown("123ASDFGHJKL"[Below(12)], 0);
+    }
 
   private:
-    int Draw(int sides) { return std::uniform_int_distribution(0, sides - 1)(generator_); }
-
     Playing& window_;
-    std::mt19937 generator_;
+    std::mt19937 random_;
 };
 
 // False: no input on the table can change anything any more. So it must never be while the player is to move.
-bool CanAct(Playing& window);
+inline bool CanAct(Playing& window) {
+    return window.TieneCartas(clase::kHumano) && !window.Bloqueado(clase::kHumano);
+}
 
 }  // namespace zarpel

@@ -3,16 +3,23 @@
 // real one.
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
 #include <random>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "platform/desktop.h"
 
 namespace zarpel {
+
+// The installation's files, as a new ScriptedDesktop has them.
+inline std::string PathOf(const std::string& name) { return "C:\\Zarpel\\" + name; }
+inline std::string CardPicture(int carta) { return PathOf("carta" + std::to_string(carta) + ".png"); }
 
 class ScriptedDesktop : public Desktop {
   public:
@@ -21,8 +28,6 @@ class ScriptedDesktop : public Desktop {
         int Status;
     };
 
-    static constexpr const char* kFolder = "C:\\Zarpel";
-
     // With a full installation in `Files`: card list, card pictures, card back, both preference files.
     explicit ScriptedDesktop(unsigned seed = 1);
 
@@ -30,11 +35,10 @@ class ScriptedDesktop : public Desktop {
     void Seed(unsigned seed) { generator_.seed(seed); }
 
     // --- Prepared by the test ---
-    std::map<std::string, std::string>
-        Files;                       // by full path; a picture is any file whose name ends in .png or .jpg
-    std::deque<Answer> Answers;      // for Yes/No boxes, in order; then Yes
-    std::deque<std::string> Typed;   // for input boxes; then cancelled
-    std::deque<std::string> Chosen;  // for file choosers, "" is a cancel; then cancelled
+    std::map<std::string, std::string> Files;      // by full path; .png and .jpg are pictures
+    std::deque<Answer> Answers;                    // for Yes/No boxes, in order; then Yes
+    std::deque<std::string> Typed;                 // for input boxes; then cancelled
+    std::deque<std::string> Chosen;                // for file choosers, "" is a cancel; then cancelled
     std::deque<std::optional<ColorCode>> Colors;   // for colour choosers; then cancelled
     std::deque<std::function<void(Form&)>> Modal;  // what the player does in modal windows; then closes them
     std::deque<double> Draws;                      // the next random draws; then the generator's
@@ -47,45 +51,98 @@ class ScriptedDesktop : public Desktop {
     std::vector<int> Pauses;         // milliseconds
     std::vector<std::string> Calls;  // everything asked of the desktop that the player sees, in order
     std::vector<Form*> Shown;        // the lowest first
-    int DrawCount = 0;
 
     // The texts of the boxes since the last call of this function.
-    std::vector<std::string> TakeBoxTexts();
-    std::vector<std::string> TakeCalls();
+    std::vector<std::string> TakeBoxTexts() {
+        std::vector<std::string> texts;
+        for (const Message& message : std::exchange(Boxes, {})) texts.push_back(message.Text);
+        return texts;
+    }
+    std::vector<std::string> TakeCalls() { return std::exchange(Calls, {}); }
 
     std::string Title() const override { return "Zarpel"; }
-    std::string Folder() const override { return kFolder; }
-    void Show(Form& form) override;
-    void ShowModal(Form& form) override;
-    void Unload(Form& form) override;
+    std::string Folder() const override { return "C:\\Zarpel"; }
     Place Screen() const override { return {0, 0, 28800, 16200}; }
-    Answer Show(const Message& message) override;
+    void Show(Form& form) override {
+        if (!IsShown(form)) Shown.push_back(&form);
+    }
+    void ShowModal(Form& form) override {
+        Calls.push_back("modal " + form.Caption.get());
+        Shown.push_back(&form);
+        Take(Modal, {[](Form& shown) { shown.Form_QueryClose(); }})(form);
+        if (IsShown(form)) form.Form_QueryClose();
+    }
+    void Unload(Form& form) override { std::erase(Shown, &form); }
+    Answer Show(const Message& message) override {
+        Calls.push_back("box " + message.Text);
+        Boxes.push_back(message);
+        OnBox(message);
+        return message.Buttons == Buttons::Ok ? Answer::Ok : Take(Answers, Answer::Yes);
+    }
     std::string InputBox(const std::string& prompt, const std::string& title,
-                         const std::string& proposed) override;
+                         const std::string& proposed) override {
+        Calls.push_back("input " + prompt + "|" + title + "|" + proposed);
+        return Take(Typed, {});
+    }
     bool ShowOpen(CommonDialog& dialog) override { return Choose("open", dialog); }
     bool ShowSave(CommonDialog& dialog) override { return Choose("save", dialog); }
-    bool ShowColor(CommonDialog& dialog) override;
-    bool LoadPicture(const std::string& path) override;
-    std::optional<std::string> ReadFile(const std::string& path, std::size_t limit) override;
-    bool WriteFile(const std::string& path, const std::string& bytes) override;
-    void Pause(int milliseconds) override;
+    bool ShowColor(CommonDialog& dialog) override {
+        Calls.push_back("color " + std::to_string(dialog.Color));
+        const auto color = Take(Colors, {});
+        dialog.Color = color.value_or(dialog.Color);
+        return color.has_value();
+    }
+    bool LoadPicture(const std::string& path) override {
+        return Files.contains(path) && (path.ends_with(".png") || path.ends_with(".jpg"));
+    }
+    std::optional<std::string> ReadFile(const std::string& path, std::size_t limit) override {
+        if (!Files.contains(path)) return std::nullopt;
+        return Files[path].substr(0, limit);
+    }
+    bool WriteFile(const std::string& path, const std::string& bytes) override {
+        Calls.push_back("write " + path);
+        if (!WritesFail) Files[path] = bytes;
+        return !WritesFail;
+    }
+    void Pause(int milliseconds) override {
+        Calls.push_back("pause " + std::to_string(milliseconds));
+        Pauses.push_back(milliseconds);
+        OnPause();
+    }
     void Randomize() override {}
-    double Rnd() override;
+    double Rnd() override {
+        if (!Draws.empty()) return Take(Draws, 0.0);
+        return std::uniform_real_distribution(0.0, 1.0)(generator_);
+    }
     void OpenHelp(const std::string& path) override { Calls.push_back("help " + path); }
     void Run(const std::string& commandLine) override { Calls.push_back("run " + commandLine); }
 
   protected:
-    void Leave(int status) override;
+    void Leave(int status) override {
+        Calls.push_back("end " + std::to_string(status));
+        throw Ended{status};
+    }
 
   private:
-    bool Choose(const std::string& how, CommonDialog& dialog);
-    bool IsShown(const Form& form) const;
+    // The next prepared answer, or `otherwise` when none is left.
+    template <class T>
+    static T Take(std::deque<T>& prepared, std::type_identity_t<T> otherwise) {
+        if (prepared.empty()) return otherwise;
+        const T next = prepared.front();
+        prepared.pop_front();
+        return next;
+    }
+    bool Choose(const std::string& how, CommonDialog& dialog) {
+        Calls.push_back(how + " " + dialog.Filter + " " + dialog.FileName);
+        const std::string name = Take(Chosen, {});
+        if (!name.empty()) dialog.FileName = name;
+        return !name.empty();
+    }
+    bool IsShown(const Form& form) const {
+        return std::find(Shown.begin(), Shown.end(), &form) != Shown.end();
+    }
 
     std::mt19937 generator_;
 };
-
-// The installation's files, as a new ScriptedDesktop has them.
-std::string PathOf(const std::string& name);
-std::string CardPicture(int carta);
 
 }  // namespace zarpel

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "engine/zarpelfunc.h"
@@ -28,15 +29,20 @@ struct Table {
     void Lay(const std::vector<int>& mesa, const std::vector<int>& humano, const std::vector<int>& cpu);
 
     // Presses keys, one a character, as the player would; Shift is held for all of them or for none.
-    void Press(const std::string& keys, int shift = 0);
+    void Press(const std::string& keys, int shift = 0) {
+        for (const char key : keys) Window.Form_KeyDown(key, shift);
+    }
     // Runs the turn decision as if it were this player's turn ('p' the human's, 'c' the computer's).
-    void GiveMoveTo(char clase);
+    void GiveMoveTo(char clase) {
+        Reparto->aTurno(clase == clase::kCpu ? 1 : 0);
+        Window.DecideTurno();
+    }
     // The captions that cartellbl has shown since the last call of this function.
-    std::vector<std::string> TakeCaptions();
+    std::vector<std::string> TakeCaptions() { return std::exchange(captions_, {}); }
 
-    // The indexes of the cards shown on the table, or in a hand, in slot order.
-    std::vector<int> OnTable();
+    // The indexes of the cards shown in a hand (any row, by its kind letter), or on the table, in slot order.
     std::vector<int> InHand(char clase);
+    std::vector<int> OnTable() { return InHand(clase::kMesa); }
 
     ScriptedDesktop Desktop;
     Playing Window{Desktop};
