@@ -8,6 +8,7 @@
 namespace zarpel {
 namespace {
 
+using namespace std::string_literals;
 using Texts = std::vector<std::string>;
 using Lines = std::vector<std::string>;
 
@@ -195,38 +196,33 @@ TEST(Partida, ComesBackAndGoesOnAsItWas) {
     }
 }
 
+// Line 4 is the card of a shown place, 24 that of a hidden one, 43 and 51 are pictures of cards not shown and
+// shown.
 TEST(Partida, LinesChangedByHandAreReadOrRefused) {
     const struct {
         std::size_t Line;  // from 1
         std::string Text;
         std::string ReadAs;  // empty: refused
         bool Drawable = true;
-    } cases[] = {
-        {1, "15", "\"15\""},
-        {4, "\" 7abc\"", "\"7\""},
-        {4, "\"0\"", "\"0\"", false},
-        {4, "\"41\"", "\"41\"", false},
-        {4, "\"abc\"", "\"abc\"", false},
-        {4, "\"99999999999999999999\"", "\"99999999999999999999\"", false},
-        {4, "\"\"", "\"\"", false},
-        {24, "\"\"", "\"\""},  // a hidden place that has not held a card yet
-        {6, "True", ""},
-        {25, "#FALSE# ", "#FALSE#"},
-        {34, "32767", "32767"},
-        {34, "32768", ""},
-        {34, "-32768", "-32768"},
-        {34, "-32769", ""},
-        {34, "1e3", "1000"},
-        {34, "1.5", "2"},
-        {34, "+5", "5"},
-        {34, "muchas", ""},
-        {34, "", ""},
-        {40, "#TRUE#", "#FALSE#"},
-        {42, "\"nadie\"", "\"nadie\""},
-        {43, "\"C:\\no\\esta.png\"", "\"C:\\no\\esta.png\""},  // of a card that no place shows
-        {51, "\"C:\\no\\esta.png\"", "\"C:\\no\\esta.png\"", false},
-        {201, "\"oros", ""},
-    };
+    } cases[] = {{1, "15", "\"15\""},
+                 {4, "\" 7abc\"", "\"7\""},
+                 {4, "\"0\"", "\"0\"", false},
+                 {4, "\"41\"", "\"41\"", false},
+                 {4, "\"99999999999999999999\"", "\"99999999999999999999\"", false},
+                 {4, "\"\"", "\"\"", false},
+                 {24, "\"\"", "\"\""},
+                 {6, "True", ""},
+                 {25, "#FALSE# ", "#FALSE#"},
+                 {34, "32767", "32767"},
+                 {34, "32768", ""},
+                 {34, "-32768", "-32768"},
+                 {34, "-32769", ""},
+                 {34, "muchas", ""},
+                 {40, "#TRUE#", "#FALSE#"},
+                 {42, "\"nadie\"", "\"nadie\""},
+                 {43, "\"C:\\no\\esta.png\"", "\"C:\\no\\esta.png\""},
+                 {51, "\"C:\\no\\esta.png\"", "\"C:\\no\\esta.png\"", false},
+                 {201, "\"oros", ""}};
     Table table;
     table.Lay({3, 15}, {32, 31}, {12, 14});
     table.Window.mesaimg[5].Tag = "9";
@@ -308,24 +304,20 @@ TEST(Preferencias, TakeEffectAsTheyAreRead) {
         {"a\r\nb\r\n3\r\n4\r\n\"c\r\n", {"\"a\"", "\"b\"", "3", "4"}},
         {"a,b,3,4,c\r\n" + kLong, {"\"a\"", "\"b\"", "3", "4", "\"c\""}},
         {"\"" + kLong + "\",b,3,4,c", {}},
-        // Numbers.
-        {"a,b,+5,1e3,c", {"\"a\"", "\"b\"", "5", "1000", "\"c\""}},
-        {"a,b,1.5,2.5,c", {"\"a\"", "\"b\"", "2", "2", "\"c\""}},
-        {"a,b,verde,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,+-5,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,3 4,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,nan,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,2147483648,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,3,-1e400,c", {"\"a\"", "\"b\"", "3"}},
-        // Colours of the screen and of the palette, and the first beyond them.
-        {"a,b,-2147483648,16777215,c", {"\"a\"", "\"b\"", "-2147483648", "16777215", "\"c\""}},
-        {"a,b,-2147483648.4,-2147483624,c", {"\"a\"", "\"b\"", "-2147483648", "-2147483624", "\"c\""}},
-        {"a,b,16777216,4,c", {"\"a\"", "\"b\""}},
-        {"a,b,3,-2147483623,c", {"\"a\"", "\"b\"", "3"}},
-        {"a,b,3,-1,c", {"\"a\"", "\"b\"", "3"}},
     };
     for (const auto& [file, read] : cases) Preferencias().Expect(file, read);
+
+    // Each number behind the text that is read as it, then texts that are no colour.
+    const Texts colors = LinesOf(
+        "+5 5 1e3 1000 1.5 2 2.5 2 -2147483648.4 -2147483648 16777215 16777215 -2147483624 -2147483624 ",
+        " ");
+    for (std::size_t i = 0; i < colors.size(); i += 2) {
+        Preferencias().Expect("a,b," + colors[i] + ",4,c", {"\"a\"", "\"b\"", colors[i + 1], "4", "\"c\""});
+    }
+    for (const char* none :
+         {"verde", "", "+-5", "nan", "2147483648", "-1e400", "16777216", "-2147483623", "-1"}) {
+        Preferencias().Expect("a,b,"s + none + ",4,c", {"\"a\"", "\"b\""});
+    }
 }
 
 TEST(Preferencias, AreAskedForAtEveryMatchUntilTheyAreSaved) {
