@@ -7,10 +7,8 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <chrono>
 #include <csignal>
 #include <functional>
-#include <thread>
 
 #include "platform/qt/files.h"
 
@@ -22,11 +20,15 @@ const std::string kOld(2'000, 'o');
 const std::string kNew(2'500, 'n');
 const std::string kLong(200'000, 'l');
 
-// Runs `job` in a process of its own and gives its exit status, or -1 when it was killed.
-int InChild(const std::function<int()>& job, const std::function<void(pid_t)>& meanwhile = {}) {
+// Runs `job` in a process of its own, killed after so many microseconds, and gives its exit status, or -1
+// when it was killed.
+int InChild(const std::function<int()>& job, int killedAfter = 0) {
     const pid_t child = fork();
     if (child == 0) _exit(job());
-    if (meanwhile) meanwhile(child);
+    if (killedAfter != 0) {
+        usleep(static_cast<useconds_t>(killedAfter));
+        kill(child, SIGKILL);
+    }
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -67,21 +69,21 @@ TEST_F(Files, WhereNoneCanBeAreRefused) {
 TEST_F(Files, OnAFullOrReadOnlyDiskStayAsTheyWere) {
     enum { kFine, kNotAllowed, kNotSetUp, kWritten, kOldLost };
     const QByteArray disk = folder_.path().toLocal8Bit();
+    const std::string path = In("partida.zrp");
     const auto job = [&]() -> int {
         // A small disk that only this process sees.
         if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
             mount("tmpfs", disk, "tmpfs", 0, "size=16k") != 0) {
             return kNotAllowed;
         }
-        if (!ReplaceFile(In("partida.zrp"), kOld)) return kNotSetUp;
-        if (ReplaceFile(In("partida.zrp"), kLong)) return kWritten;
-        if (ReadWholeFile(In("partida.zrp"), kLimit) != kOld || Names().size() != 1) return kOldLost;
+        if (!ReplaceFile(path, kOld)) return kNotSetUp;
+        if (ReplaceFile(path, kLong)) return kWritten;
+        if (ReadWholeFile(path, kLimit) != kOld || Names().size() != 1) return kOldLost;
         for (int i = 0; ReplaceFile(In("relleno" + std::to_string(i)), kNew); ++i) continue;
-        if (ReplaceFile(In("partida.zrp"), kNew)) return kWritten;
-        if (ReadWholeFile(In("partida.zrp"), kLimit) != kOld) return kOldLost;
+        if (ReplaceFile(path, kNew)) return kWritten;
         if (mount(nullptr, disk, nullptr, MS_REMOUNT | MS_RDONLY, nullptr) != 0) return kNotSetUp;
-        if (ReplaceFile(In("partida.zrp"), "")) return kWritten;
-        return ReadWholeFile(In("partida.zrp"), kLimit) == kOld ? kFine : kOldLost;
+        if (ReplaceFile(path, "")) return kWritten;
+        return ReadWholeFile(path, kLimit) == kOld ? kFine : kOldLost;
     };
     const int result = InChild(job);
     if (result == kNotAllowed) GTEST_SKIP() << "needs the right to mount a disk of its own";
@@ -92,17 +94,13 @@ TEST_F(Files, SurviveTheProgramBeingKilled) {
     constexpr int kRounds = 25, kSaves = 200;
     const std::string path = In("partida.zrp");
     int killed = 0;
+    const auto save = [&path] {
+        for (int i = 0; i < kSaves; ++i) ReplaceFile(path, i % 2 == 0 ? kLong : kOld);
+        return 0;
+    };
     for (int round = 0; round < kRounds; ++round) {
         ASSERT_TRUE(ReplaceFile(path, kOld));
-        const auto save = [&] {
-            for (int i = 0; i < kSaves; ++i) ReplaceFile(path, i % 2 == 0 ? kLong : kOld);
-            return 0;
-        };
-        const auto kill = [round](pid_t child) {
-            std::this_thread::sleep_for(std::chrono::microseconds(700 * round));
-            ::kill(child, SIGKILL);
-        };
-        killed += InChild(save, kill) == -1;
+        killed += InChild(save, 700 * round + 1) == -1;
         const auto bytes = ReadWholeFile(path, kLimit);
         EXPECT_TRUE(bytes == kOld || bytes == kLong) << "round " << round;
     }
