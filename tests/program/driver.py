@@ -10,6 +10,7 @@ import pathlib
 import re
 import shutil
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -17,6 +18,9 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
+
+sys.path.append(str(pathlib.Path(__file__).parents[2] / "tools/speed"))
+from screen import Screen  # noqa: E402
 
 DEADLINE = 60  # seconds that anything may take, on a slow machine
 CARD = re.compile(r"(\d+) de (\w+)")
@@ -57,8 +61,8 @@ class Node:
     def texts(self):
         return [node.name for node in self.all() if node.role == Atspi.Role.LABEL and node.name]
 
-    def button(self, name):
-        return next(node for node in self.all() if node.role == Atspi.Role.PUSH_BUTTON and node.name == name)
+    def find(self, name, role=Atspi.Role.PUSH_BUTTON):
+        return next((node for node in self.all() if node.role == role and node.name == name), None)
 
 
 class Table(Node):
@@ -84,10 +88,9 @@ class Table(Node):
     def humans_turn(self):
         return self.caption().startswith("Juega") and self.caption() != "Juega Cpu"
 
-    def bare_table(self):
-        """A point of the table area where no card can lie."""
-        client = next(node for node in self.children if node.role == Atspi.Role.PANEL)
-        return next(node for node in client.children if node.role == Atspi.Role.PANEL).corner
+    def area(self, depth):
+        """The window's inside (1), or the table area within it (2); no card lies on its corner."""
+        return [node for node in self.all() if node.role == Atspi.Role.PANEL][depth - 1]
 
     def points(self):
         """The points in the match, the computer's and the player's."""
@@ -109,7 +112,7 @@ class Game:
                     return [application.get_child_at_index(j) for j in range(application.get_child_count())]
         return []
 
-    def window(self, kind, wanted):
+    def window(self, wanted, kind=Node):
         """The window that `wanted` is true of, or None while there is none or it is just going."""
         with contextlib.suppress(GLib.Error, AttributeError, TypeError):
             for accessible in self.windows():
@@ -117,29 +120,42 @@ class Game:
                     return kind(accessible)
         return None
 
-    def table(self):
-        return wait(lambda: self.window(Table, lambda w: w.get_name() == "Playing"), "the table")
+    def table(self, what="the table", holds=lambda table: True):
+        """The main window, once this holds of it."""
+        def look():
+            found = self.window(lambda w: w.get_name() == "Playing", Table)
+            return found if found and holds(found) else None
+        return wait(look, what)
 
     def box(self):
-        """The message box that is open and takes the keys, or None."""
+        """The message box, or chooser, that is open and takes the keys, or None."""
         boxes = (Atspi.Role.ALERT, Atspi.Role.DIALOG)
-        found = self.window(Node, lambda w: w.get_role() in boxes and w.get_name() != "Resultados")
+        found = self.window(lambda w: w.get_role() in boxes and w.get_name() != "Resultados")
         return found if found and found.active else None
 
-    def results(self):
-        found = self.window(Node, lambda w: w.get_name() == "Resultados")
+    def named(self, name):
+        """The window of this title, if it takes the keys, or None."""
+        found = self.window(lambda w: w.get_name() == name)
         return found if found and found.active else None
 
-    def answer(self, title, text):
-        """Waits for the box whose text begins so, and presses Enter."""
-        box = wait(self.box, f'the box "{text}"')
+    def answer(self, title, text="", button=None, typed=""):
+        """Waits for the box whose text begins so, types, and clicks the button or presses Enter."""
+        box = wait(self.box, f'the box "{title}: {text}"')
         assert box.name == title and box.texts()[0].startswith(text), (box.name, box.texts())
-        keys("Return")
-        wait(lambda: self.ended() or not self.is_open(box), f'the end of the box "{text}"')
+        if typed:
+            xdotool("type", typed)
+        click(box.find(button)) if button else keys("Return")
+        wait(lambda: self.ended() or not self.is_open(box), f'the end of the box "{title}: {text}"')
 
     def is_open(self, box):
         now = self.box()
-        return now and now.texts() == box.texts()
+        return now and (now.name, now.texts()) == (box.name, box.texts())
+
+    def choose(self, menu, entry):
+        click(wait(lambda: self.table().find(menu, Atspi.Role.MENU_ITEM), f'the menu "{menu}"'))
+        opened = lambda node: node.active and node.find(entry, Atspi.Role.MENU_ITEM)
+        lists = lambda: (opened(node) for node in self.table().all() if node.role == Atspi.Role.POPUP_MENU)
+        click(wait(lambda: next(filter(None, lists()), None), f'the entry "{entry}"'))
 
     def ended(self):
         return self.process.poll() is not None
@@ -183,7 +199,8 @@ def desktop(size):
     """A display of this size ("800x600"), with window manager and session bus, for all programs started meanwhile."""
     with contextlib.ExitStack() as stack:
         quiet = {"stderr": subprocess.DEVNULL}
-        server = ["Xvfb", "-displayfd", "1", "-screen", "0", f"{size}x24", "-nolisten", "tcp"]
+        # -r: no key repeats, however late its release comes
+        server = ["Xvfb", "-displayfd", "1", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-r"]
         display = stack.enter_context(running(server, stdout=subprocess.PIPE, **quiet))
         os.environ["DISPLAY"] = ":" + display.stdout.readline().decode().strip()
         os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
@@ -204,5 +221,6 @@ def game(program, damage=lambda folder: None):
         folder = pathlib.Path(parent, "zarpel")
         shutil.copytree(pathlib.Path(program).parent, folder)
         damage(folder)
-        with running([folder / pathlib.Path(program).name]) as process:
+        home = os.environ | {"HOME": parent}
+        with running([folder / pathlib.Path(program).name], env=home) as process:
             yield Game(process, folder)
