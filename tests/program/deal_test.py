@@ -24,9 +24,6 @@ class Keyboard:
     def lay(self, place, card, table):
         keys(f"shift+{place}")
 
-    def close(self, window):
-        keys("Return")
-
 
 class Mouse:
     def select(self, row, place, card):
@@ -37,9 +34,6 @@ class Mouse:
 
     def lay(self, place, card, table):
         drag(card, table.area(2).corner)
-
-    def close(self, window):
-        click(window.find("ACEPTAR"))
 
 
 def capture(table):
@@ -107,12 +101,7 @@ class Deal:
         else:
             place = min(hand)
             self.hands.lay(place, hand[place], table)
-        wait(lambda: self.running.box() or place not in self.running.table().cards("mano") or self.dealt(hand),
-             "the card to leave the hand")
-
-    def dealt(self, before):
-        now = self.running.table().cards("mano").values()
-        return [card.name for card in before.values()] != [card.name for card in now]
+        wait(lambda: self.running.box() or self.running.table().lies() != table.lies(), "the move")
 
 
 def chosen(table, count):
@@ -156,7 +145,7 @@ def main():
             strike_while_the_computer_moves(deal)
         results = deal.play()
         points = check_count(deal, results)
-        hands.close(results)
+        click(results.find("ACEPTAR"))
         wait(lambda: not running.named("Resultados"), "the results window to close")
         running.table(f"the points {points}", lambda table: table.points() == points)
         assert len(deal.next().cards("mano")) == 3

@@ -20,7 +20,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 sys.path.append(str(pathlib.Path(__file__).parents[2] / "tools/speed"))
-from screen import Screen  # noqa: E402
+from probe import Screen, processor_s  # noqa: E402, F401
 
 DEADLINE = 60  # seconds that anything may take, on a slow machine
 CARD = re.compile(r"(\d+) de (\w+)")
@@ -44,9 +44,7 @@ class Node:
         self.name = accessible.get_name()
         self.description = accessible.get_description()
         self.role = accessible.get_role()
-        states = accessible.get_state_set()
-        self.active = states.contains(Atspi.StateType.ACTIVE)
-        self.enabled = states.contains(Atspi.StateType.ENABLED)
+        self.active = accessible.get_state_set().contains(Atspi.StateType.ACTIVE)
         at = accessible.get_extents(Atspi.CoordType.SCREEN)
         self.middle = (at.x + at.width // 2, at.y + at.height // 2)
         self.corner = (at.x + 3, at.y + 3)
@@ -81,12 +79,11 @@ class Table(Node):
             found[int(place[1])] = node
         return found
 
-    def caption(self):
-        words = ("Juega", "Reparte", "Me llevo", "He Jugado", "Esta es", "Paso")
-        return next((text for text in self.texts() if text.startswith(words)), "")
+    def lies(self):
+        return [{place: card.name for place, card in self.cards(row).items()} for row in ("mesa", "mano")]
 
     def humans_turn(self):
-        return self.caption().startswith("Juega") and self.caption() != "Juega Cpu"
+        return any(text.startswith("Juega ") and text != "Juega Cpu" for text in self.texts())
 
     def area(self, depth):
         """The window's inside (1), or the table area within it (2); no card lies on its corner."""
@@ -130,13 +127,17 @@ class Game:
     def box(self):
         """The message box, or chooser, that is open and takes the keys, or None."""
         boxes = (Atspi.Role.ALERT, Atspi.Role.DIALOG)
-        found = self.window(lambda w: w.get_role() in boxes and w.get_name() != "Resultados")
-        return found if found and found.active else None
+        return self.active(lambda w: w.get_role() in boxes and w.get_name() != "Resultados")
 
     def named(self, name):
-        """The window of this title, if it takes the keys, or None."""
-        found = self.window(lambda w: w.get_name() == name)
+        return self.active(lambda w: w.get_name() == name)
+
+    def active(self, wanted):
+        found = self.window(wanted)
         return found if found and found.active else None
+
+    def open(self, name):
+        return wait(lambda: self.named(name), f'the window "{name}"')
 
     def answer(self, title, text="", button=None, typed=""):
         """Waits for the box whose text begins so, types, and clicks the button or presses Enter."""
@@ -159,10 +160,6 @@ class Game:
 
     def ended(self):
         return self.process.poll() is not None
-
-    def processor_ticks(self):
-        fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rpartition(")")[2].split()
-        return int(fields[11]) + int(fields[12])
 
 
 def xdotool(*words):

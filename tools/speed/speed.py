@@ -9,25 +9,18 @@ medians: time from the process's start to its first painted window, resident mem
 while nobody acts, and the time from a click on a card to the raised card on the screen. The game's start is the whole
 table: its first paint has all cards in it.
 """
-import os
 import shutil
 import statistics
 import subprocess
 import sys
 import time
 
-from screen import Screen
+from probe import Screen, processor_s
 
 
 def resident_kb(pid):
     with open(f"/proc/{pid}/status") as status:
         return next(int(line.split()[1]) for line in status if line.startswith("VmRSS"))
-
-
-def processor_s(pid):
-    with open(f"/proc/{pid}/stat") as stat:
-        fields = stat.read().rpartition(")")[2].split()
-    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
 
 
 def start(screen, program, at):

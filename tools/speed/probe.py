@@ -1,5 +1,6 @@
-"""What the X display shows, pixel by pixel and at once, and the mouse on it."""
+"""Looks at running programs from outside: what the X display shows, pixel by pixel, and what a process uses."""
 import ctypes
+import os
 import sys
 import time
 
@@ -54,3 +55,9 @@ class Screen:
         for down in (1, 0):
             xtest.XTestFakeButtonEvent(self.display, 1, down, 0)
         xlib.XSync(self.display, 0)
+
+
+def processor_s(pid):
+    with open(f"/proc/{pid}/stat") as stat:
+        fields = stat.read().rpartition(")")[2].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
