@@ -56,25 +56,20 @@ class Deal:
 
     def play(self):
         """Until the results window is open; gives that."""
-        while True:
-            event = self.next()
-            if event.name == "Resultados":
-                return event
+        while (event := self.next()).name != "Resultados":
             self.move(event)
+        return event
 
     def next(self):
         """Reads all boxes; gives the results window, or the table when it is the player's turn."""
-        while True:
-            event = wait(self.event, "the next move")
-            if event.name in ("Resultados", "Playing"):
-                return event
+        while (event := wait(self.event, "the next move")).name not in ("Resultados", "Playing"):
             self.read(event)
+        return event
 
     def event(self):
         """What the player can react to: a box, the results window, or the table when it is the player's turn."""
         running = self.running
-        other = running.box() or running.named("Resultados")
-        if other:
+        if other := running.box() or running.named("Resultados"):
             return other
         if not running.table().humans_turn():
             return None
@@ -138,7 +133,7 @@ def check_count(deal, results):
 
 def main():
     program, hands = sys.argv[1], {"keyboard": Keyboard, "mouse": Mouse}[sys.argv[2]]()
-    size = sys.argv[3] if len(sys.argv) > 3 else {"keyboard": "800x600", "mouse": "1920x1080"}[sys.argv[2]]
+    size = (sys.argv[3:] or [{"keyboard": "800x600", "mouse": "1920x1080"}[sys.argv[2]]])[0]
     with desktop(size), game(program) as running:
         deal = Deal(running, hands)
         if isinstance(hands, Keyboard):

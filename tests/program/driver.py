@@ -30,8 +30,7 @@ def wait(condition, what, seconds=DEADLINE):
     """Waits for the condition; gives its first true value."""
     end = time.monotonic() + seconds
     while True:
-        value = condition()
-        if value:
+        if value := condition():
             return value
         assert time.monotonic() < end, f"waited {seconds} s for {what}"
         time.sleep(0.02)
@@ -70,13 +69,11 @@ class Table(Node):
         """The cards of "mesa", "mano" or "cpu" by place, from 1; each has `number`, `chosen` and `middle`."""
         found = {}
         for node in self.all():
-            place = re.fullmatch(rf"{row} (\d)(, elegida)?", node.description or "")
-            if not place:
-                continue
-            face = CARD.fullmatch(node.name)
-            node.number = int(face[1]) if face else None
-            node.chosen = bool(place[2])
-            found[int(place[1])] = node
+            if place := re.fullmatch(rf"{row} (\d)(, elegida)?", node.description or ""):
+                face = CARD.fullmatch(node.name)
+                node.number = int(face[1]) if face else None
+                node.chosen = bool(place[2])
+                found[int(place[1])] = node
         return found
 
     def lies(self):
