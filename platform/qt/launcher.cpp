@@ -13,7 +13,10 @@ void Launch(const std::string& commandLine) {
         QProcess::startDetached(whole, {});
         return;
     }
-    QStringList words = QProcess::splitCommand(QString::fromStdString(commandLine));
+    QString line = QString::fromStdString(commandLine);
+    // The preference file writes double quotes as apostrophes.
+    if (!line.contains('"')) line.replace('\'', '"');
+    QStringList words = QProcess::splitCommand(line);
     if (words.isEmpty()) return;
     const QString program = SystemPath(words.takeFirst().toStdString());
     QProcess::startDetached(program, words);

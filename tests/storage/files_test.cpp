@@ -236,6 +236,33 @@ TEST(Partida, LinesChangedByHandAreReadOrRefused) {
     }
 }
 
+TEST(Partida, NoFileFreezesTheTable) {
+    const std::string wild[] = {"\"\"",   "\"0\"", "\"41\"",      "\"7\"",      "#TRUE#",      "#FALSE#",
+                                "0",      "32767", "\"ninguno\"", "\"lamesa\"", "\"player1\"", "\"player2\"",
+                                "-32768", "39",    "40",          "7"};
+    for (unsigned seed = 0; seed < 200; ++seed) {
+        SCOPED_TRACE(seed);
+        Table table(seed);
+        RandomPlayer player(table.Window, seed);
+        Lines lines = LinesOf(Saved(table));
+        for (int changes = player.Below(40); changes > 0; --changes) {
+            // Half of them in the match, half among the cards; each by a value of the same kind.
+            std::string& line =
+                lines[static_cast<std::size_t>(player.Below(player.Below(2) == 0 ? 41 : 201))];
+            const std::string& text = wild[player.Below(std::size(wild))];
+            if ((text[0] == '"') == (line[0] == '"') && (text[0] == '#') == (line[0] == '#')) line = text;
+        }
+        table.Desktop.Files[kPath] = FileOf(lines);
+        table.Desktop.Answers = {Answer::No};  // to opening another
+        table.Window.CargarJuego(kPath);
+        table.Desktop.Answers.clear();
+        for (int i = 0; i < 60; ++i) {
+            ASSERT_TRUE(CanAct(table.Window));
+            ASSERT_NO_THROW(player.Act());  // every card picture is there, and every new match is accepted
+        }
+    }
+}
+
 TEST(Partida, SavedBeforeTheGameMovedDealsWithItsOwnPictures) {
     Table table;
     for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Imagen(i, "D:\\antes.png");
