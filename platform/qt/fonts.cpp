@@ -52,6 +52,7 @@ QSize NaturalSize(const QString& text, const QFont& font) {
 }
 
 FittedText FitText(const QString& text, QFont font, const QSize& room, bool wrap) {
+    if (text.isEmpty()) return {font, text};  // no need to load the font yet
     for (int stretch = 100; stretch >= kMostCondensed; stretch -= kCondenseStep) {
         font.setStretch(stretch);
         if (Fits(text, font, room, wrap)) return {font, text};

@@ -23,11 +23,11 @@
 namespace zarpel {
 namespace {
 
-// When the window's icon is sent, after the start.
-constexpr int kIconMs = 300;
+// When what the table does not wait for is done, after the start.
+constexpr int kLaterMs = 300;
 
+// The texts of the toolkit's own dialogs; the game's boxes bring theirs.
 void SpeakSpanish() {
-    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     auto* const translator = new QTranslator(qApp);
     if (translator->load(QStringLiteral(":/qtbase_es.qm"))) QApplication::installTranslator(translator);
 }
@@ -35,7 +35,7 @@ void SpeakSpanish() {
 }  // namespace
 
 QtDesktop::QtDesktop(std::string folder) : folder_(std::move(folder)), style_(new ScaledStyle) {
-    SpeakSpanish();
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     QApplication::setStyle(style_);
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setApplicationDisplayName(QString());
@@ -89,15 +89,18 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     window.showMaximized();
     window.Fill();
     window.FocusFirst();
-    // The table does not wait for its icon, which is sent to the window manager in all its sizes.
-    QTimer::singleShot(kIconMs, &window,
-                       [] { QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png"))); });
+    QTimer::singleShot(kLaterMs, &window, [] {
+        SpeakSpanish();
+        // It is sent to the window manager in all its sizes.
+        QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png")));
+    });
 }
 
 void QtDesktop::UseScale(const QSize& client) {
     scale_.FitTo(client);
     style_->Use(scale_);
-    QApplication::setFont(FontOf({}, scale_));
+    const QFont font = FontOf({}, scale_);
+    if (font != QApplication::font()) QApplication::setFont(font);
 }
 
 void QtDesktop::ShowModal(Form& form) {

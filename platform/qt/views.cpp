@@ -31,7 +31,9 @@ LabelView::LabelView(Label& label, const ViewContext& context, QWidget* parent)
 QRect LabelView::Room(const QFont& font) const {
     QRect room = context_.Scale.Pixels(PlaceOf(control_));
     if (!control_.AutoSize) return room;
-    const QSize natural = NaturalSize(QString::fromStdString(control_.Caption), font);
+    const QString caption = QString::fromStdString(control_.Caption);
+    if (caption.isEmpty()) return {room.topLeft(), QSize(0, room.height())};
+    const QSize natural = NaturalSize(caption, font);
     const bool right = control_.Align == Alignment::Right;
     const int most = control_.MaxWidth > 0 ? context_.Scale.Pixels(control_.MaxWidth)
                      : right               ? room.right() + 1
