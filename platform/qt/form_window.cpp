@@ -84,6 +84,7 @@ QAbstractButton* ButtonOf(QWidget* window, bool Button::*role) {
 
 ClientArea::ClientArea(Form& form, const ViewContext& context, QWidget* parent)
     : QWidget(parent), form_(form), context_(context) {
+    setAttribute(Qt::WA_OpaquePaintEvent);  // nothing needs to be painted below it
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
 }
@@ -154,7 +155,10 @@ void FormWindow::Fill() {
 
 void FormWindow::Sync() {
     form_.Refresh();
-    for (View* const view : views_) view->Sync();
+    for (View* const view : views_) {
+        view->Follow();
+        view->Sync();
+    }
 }
 
 void FormWindow::FocusFirst() {

@@ -65,7 +65,11 @@ QImage LargestBuiltIn(const QString& picture) {
 
 QIcon BuiltInIcon(const QString& picture) {
     QIcon icon;
-    for (const QString& file : SizesOf(picture)) icon.addFile(QStringLiteral(":/") + file);
+    for (const QString& file : SizesOf(picture)) {
+        // With its size, which the name tells, a file is not read before it is needed.
+        const int size = QFileInfo(file).baseName().section('-', -1).toInt();
+        icon.addFile(QStringLiteral(":/") + file, {size, size});
+    }
     return icon;
 }
 

@@ -132,6 +132,11 @@ void ButtonView::Sync() {
 
 // --- Frames and lines ---
 
+AreaView::AreaView(Frame& frame, const ViewContext& context, QWidget* parent)
+    : ControlView(frame, context, parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
 void AreaView::Sync() {
     ControlView::Sync();
     update();

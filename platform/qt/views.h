@@ -34,6 +34,8 @@ class View {
 
     // Brings the widget into step with its control.
     virtual void Sync() = 0;
+    // From now on, every change of the control does so. Before its place is known, that would be lost work.
+    virtual void Follow() = 0;
 
     // A view that can be pressed takes Press for a click of the pointer.
     virtual bool Pressable() const { return false; }
@@ -41,7 +43,7 @@ class View {
 };
 
 // A view is one of these with its widget class: it takes place, visibility, enabled state and tooltip from
-// the control, and follows its changes until it is destroyed.
+// the control, and may follow its changes until it is destroyed.
 template <class Widget, class Model>
 class ControlView : public Widget, public View {
   public:
@@ -49,7 +51,6 @@ class ControlView : public Widget, public View {
         : Widget(parent), control_(control), context_(context) {
         // What the pointer does on a control is not meant for the background below it.
         this->setAttribute(Qt::WA_NoMousePropagation);
-        control_.Changed = [this] { Sync(); };
     }
     ~ControlView() override { control_.Changed = nullptr; }
 
@@ -58,6 +59,10 @@ class ControlView : public Widget, public View {
         this->setEnabled(control_.Enabled);
         this->setToolTip(QString::fromStdString(control_.ToolTip));
         this->setVisible(Shown());
+    }
+
+    void Follow() override {
+        control_.Changed = [this] { Sync(); };
     }
 
     Model& Control() { return control_; }
@@ -135,7 +140,7 @@ class ButtonView : public ControlView<QPushButton, Button> {
 // A frame without border: a plain area.
 class AreaView : public ControlView<QWidget, Frame> {
   public:
-    using ControlView::ControlView;
+    AreaView(Frame& frame, const ViewContext& context, QWidget* parent);
     void Sync() override;
     void Dropped(Image& source);
 
