@@ -21,7 +21,7 @@ namespace zarpel {
 LabelView::LabelView(Label& label, const ViewContext& context, QWidget* parent)
     : ControlView(label, context, parent) {
     setTextFormat(Qt::PlainText);
-    if (Pressable()) setFocusPolicy(Qt::TabFocus);
+    if (label.Click) setFocusPolicy(Qt::TabFocus);
     saying_.setSingleShot(true);
     connect(&saying_, &QTimer::timeout, this, [this] { Say(); });
 }

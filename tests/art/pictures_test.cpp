@@ -115,7 +115,7 @@ TEST_F(Pictures, SuitsKeepTheirColoursApartAlsoForTheColourBlind) {
     }
     for (const auto& sight : kSights) {
         const auto shown = [&](const double* light, int c) {
-            const double part = std::inner_product(light, light + 3, sight + 3 * c, 0.0);
+            const double part = std::inner_product(light, light + 3, std::next(sight, 3 * c), 0.0);
             return 255 * std::pow(std::clamp(part, 0.0, 1.0), 1 / 2.2);
         };
         for (int pair = 0; pair < 16; ++pair) {
@@ -150,11 +150,12 @@ TEST_F(Pictures, TheFramesBreaksTellTheSuitAndCardsEndAtTheirRoundedEdge) {
         int outside = 0, holes = 0;
         for (int at = 0; at < width * height; ++at) {
             // How far the pixel lies beyond the nearest corner's circle; 0 along the straight edges.
-            const double x = at % width + 0.5, y = at / width + 0.5;
+            const int column = at % width, row = at / width;
+            const double x = column + 0.5, y = row + 0.5;
             const double dx = std::max({radius - x, x - (width - radius), 0.0});
             const double dy = std::max({radius - y, y - (height - radius), 0.0});
             const double beyond = std::hypot(dx, dy) - radius;
-            const int alpha = qAlpha(cards_[i].pixel(at % width, at / width));
+            const int alpha = qAlpha(cards_[i].pixel(column, row));
             outside += beyond > 1.5 && alpha != 0;
             holes += beyond < -3 && alpha != 255;
         }

@@ -128,7 +128,7 @@ class ScriptedDesktop : public Desktop {
     template <class T>
     static T Take(std::deque<T>& prepared, std::type_identity_t<T> otherwise) {
         if (prepared.empty()) return otherwise;
-        const T next = prepared.front();
+        T next = std::move(prepared.front());
         prepared.pop_front();
         return next;
     }
