@@ -115,7 +115,7 @@ TEST_F(Pictures, SuitsKeepTheirColoursApartAlsoForTheColourBlind) {
     }
     for (const auto& sight : kSights) {
         const auto shown = [&](const double* light, int c) {
-            const double part = std::inner_product(light, light + 3, std::next(sight, 3 * c), 0.0);
+            const double part = std::inner_product(light, light + 3, std::next(sight, 3L * c), 0.0);
             return 255 * std::pow(std::clamp(part, 0.0, 1.0), 1 / 2.2);
         };
         for (int pair = 0; pair < 16; ++pair) {
