@@ -112,8 +112,10 @@ def strike_while_the_computer_moves(deal):
     if not running.table().humans_turn():  # nor was it during the look
         assert not any(card.chosen for card in look.cards("mano").values()), "a key got through the pause"
     box = wait(running.box, "the refusal")
-    if box.texts() == [ZARPEL]:  # the computer took all; its box came first, and the keys went to it
-        return deal.read(box)
+    if box.texts() == [ZARPEL]:  # the computer took all; a box drops what was struck before it came
+        deal.read(box)
+        assert chosen(deal.next(), 0), "a key got through the box"
+        return
     # Three strikes on 2 leave it selected, so that 3 is refused; in any other order something else comes out.
     running.answer("Zarpel", "SELECCIONE SOLO UNA DE SUS CARTAS")
     assert [place for place, card in running.table().cards("mano").items() if card.chosen] == [2]

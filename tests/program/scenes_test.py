@@ -38,7 +38,7 @@ def waiting(program):
             time.sleep(3)  # the start may still be in its last touches; then nobody acts
             return processor_s(running.process.pid) == before
 
-        running.table("the first turn", lambda table: table.humans_turn())
+        Deal(running, Keyboard()).next()
         wait(is_still, "three seconds without any use of the processor", 15)
         keys("alt+F4")
         leaves_with_chau(running)
@@ -60,15 +60,16 @@ def match(program, openings=1):
         wait((running.folder.parent / "partida.zrp").is_file, "the saved match")
         deal.move(deal.next())
         assert deal.next().lies() != saved.lies()
-        times = [ms for _ in range(int(openings)) for ms in opening_ms(running, saved)]
+        times = [ms for _ in range(int(openings)) for ms in opening_ms(deal, saved)]
         if times:
             print(f"a saved match opens in {statistics.median(times):.0f} ms, at most {max(times):.0f} ({len(times)})")
         deal.move(deal.next())
         deal.next()
 
 
-def opening_ms(running, saved):
+def opening_ms(deal, saved):
     """Opens the match; the time it took until a raised card was painted at rest, or nothing."""
+    running = deal.running
     place = min(running.table().cards("mano"))
     keys(str(place))
     raised = running.table("the raised card", lambda table: table.cards("mano")[place].chosen).cards("mano")[place]
@@ -86,7 +87,7 @@ def opening_ms(running, saved):
     taken = (time.perf_counter() - start) * 1000
     is_saved = lambda table: table.humans_turn() and (table.lies(), table.points()) == (saved.lies(), saved.points())
     at_once = is_saved(running.table())
-    running.table("the saved table", is_saved)
+    wait(lambda: is_saved(deal.next()), "the saved table")
     return [taken] if at_once else []
 
 
@@ -98,8 +99,8 @@ def preferences(program):
         (folder / "lastprop.dat").write_bytes("\r\n".join(lines).encode())
 
     with game(program, command) as running:
-        table = running.table("the first turn", lambda table: table.humans_turn())
-        click(table.find("Run"))
+        deal = Deal(running, Keyboard())
+        click(deal.next().find("Run"))
         result = running.folder / "ya corre.txt"
         wait(lambda: result.exists() and result.read_text() == "dos  blancos\n", "the command's work")
         process = running.process.pid
@@ -119,7 +120,7 @@ def preferences(program):
         running.choose("Archivo", "Nombre jugador")
         running.answer("Nuevo Jugador", NEW_MATCH, "Sí")
         running.answer("Nuevo Jugador", "Ingrese su Nick Name", typed="Lola")
-        running.table("the new name", lambda table: table.texts().count("Lola") == 2 and table.humans_turn())
+        assert deal.next().texts().count("Lola") == 2
         sees_colours(running)
         assert kept(running)[0] == '"Lola"', kept(running)
         running.choose("Archivo", "Salir")
