@@ -26,6 +26,17 @@ namespace {
 // When what the table does not wait for is done, after the start.
 constexpr int kLaterMs = 300;
 
+// Acts once, from the event loop, so many milliseconds from now, unless the receiver is gone by then.
+template <class Action>
+void After(int milliseconds, QObject* receiver, Action action) {
+    auto* const timer = new QTimer(receiver);
+    timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer);
+    QObject::connect(timer, &QTimer::timeout, receiver, action);
+    QObject::connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(milliseconds);
+}
+
 // The texts of the toolkit's own dialogs; the game's boxes bring theirs.
 void SpeakSpanish() {
     auto* const translator = new QTranslator(qApp);
@@ -73,8 +84,8 @@ void QtDesktop::Show(Form& form) {
         Forget(form);
         QApplication::quit();
     };
-    ShowMaximised(Open(
-        form, [this, &form, leave] { GateOf(form).Idle = [leave] { QTimer::singleShot(0, qApp, leave); }; }));
+    ShowMaximised(
+        Open(form, [this, &form, leave] { GateOf(form).Idle = [leave] { After(0, qApp, leave); }; }));
 }
 
 // The scale depends on the room that the maximised window really has, under its title and menu bar. The
@@ -89,7 +100,7 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     window.showMaximized();
     window.Fill();
     window.FocusFirst();
-    QTimer::singleShot(kLaterMs, &window, [] {
+    After(kLaterMs, &window, [] {
         SpeakSpanish();
         // It is sent to the window manager in all its sizes.
         QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png")));
@@ -163,7 +174,7 @@ bool QtDesktop::WriteFile(const std::string& path, const std::string& bytes) {
 // The toolkit keeps the player's input back and delivers it, in order, once the loop has ended.
 void QtDesktop::Pause(int milliseconds) {
     QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    After(milliseconds, &loop, [&loop] { loop.quit(); });
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
