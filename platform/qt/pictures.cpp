@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QImageReader>
 #include <QPainter>
+#include <map>
 
 #include "platform/qt/files.h"
 
@@ -13,9 +14,19 @@ namespace {
 // No card on any screen is larger. A photograph chosen as card back is made smaller while it is decoded.
 constexpr QSize kLargest(1024, 1024);
 
-QStringList SizesOf(const QString& picture) {
-    return QDir(QStringLiteral(":/"))
-        .entryList({QFileInfo(picture).baseName() + QStringLiteral("-*.png")}, QDir::Files);
+// All sizes of the icon go to the window manager at once, and none shows a larger one.
+constexpr int kLargestIcon = 256;
+
+// The files of a built-in picture that comes in several sizes, by size.
+std::map<int, QString> SizesOf(const QString& picture) {
+    std::map<int, QString> files;
+    const QStringList names =
+        QDir(QStringLiteral(":/"))
+            .entryList({QFileInfo(picture).baseName() + QStringLiteral("-*.png")}, QDir::Files);
+    for (const QString& name : names) {
+        files[QFileInfo(name).baseName().section('-', -1).toInt()] = QStringLiteral(":/") + name;
+    }
+    return files;
 }
 
 QImage Decode(QImageReader&& reader) {
@@ -55,20 +66,19 @@ QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
     return QPixmap::fromImage(rounded);
 }
 
-// Of a built-in picture that comes in several sizes and is named without one.
-QImage LargestBuiltIn(const QString& picture) {
-    return picture.startsWith(QStringLiteral(":/")) ? BuiltInIcon(picture).pixmap(kLargest).toImage()
-                                                    : QImage();
-}
-
 }  // namespace
 
-QIcon BuiltInIcon(const QString& picture) {
+QImage BuiltInPicture(const QString& picture, int pixels) {
+    const std::map<int, QString> files = SizesOf(picture);
+    if (files.empty()) return {};
+    const auto enough = files.lower_bound(pixels);
+    return Decode(enough == files.end() ? files.rbegin()->second : enough->second);
+}
+
+QIcon ProgramIcon() {
     QIcon icon;
-    for (const QString& file : SizesOf(picture)) {
-        // With its size, which the name tells, a file is not read before it is needed.
-        const int size = QFileInfo(file).baseName().section('-', -1).toInt();
-        icon.addFile(QStringLiteral(":/") + file, {size, size});
+    for (const auto& [size, file] : SizesOf(QStringLiteral(":/zarpel.png"))) {
+        if (size <= kLargestIcon) icon.addFile(file);
     }
     return icon;
 }
@@ -77,7 +87,8 @@ bool Pictures::Load(const std::string& path) {
     const QString name = SystemPath(path);
     if (decoded_.contains(name)) return true;
     QImage picture = Decode(name);
-    if (picture.isNull()) picture = LargestBuiltIn(name);
+    if (picture.isNull() && name.startsWith(QStringLiteral(":/")))
+        picture = BuiltInPicture(name, kLargest.width());
     if (picture.isNull()) return false;
     decoded_.insert(name, picture);
     return true;

@@ -11,9 +11,12 @@
 
 namespace zarpel {
 
-// A built-in picture that was drawn in several sizes: ":/nuevo.png" stands for all files
-// ":/nuevo-<size>.png".
-QIcon BuiltInIcon(const QString& picture);
+// A built-in picture that was drawn in several sizes (":/nuevo.png" stands for all files
+// ":/nuevo-<size>.png"): the smallest that has so many pixels across, or the largest there is. Null: there is
+// no such picture.
+QImage BuiltInPicture(const QString& picture, int pixels);
+
+QIcon ProgramIcon();
 
 class Pictures {
   public:

@@ -102,8 +102,7 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     window.FocusFirst();
     After(kLaterMs, &window, [] {
         SpeakSpanish();
-        // It is sent to the window manager in all its sizes.
-        QApplication::setWindowIcon(BuiltInIcon(QStringLiteral(":/zarpel.png")));
+        QApplication::setWindowIcon(ProgramIcon());
     });
 }
 

@@ -9,7 +9,6 @@
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 #include <QTabBar>
-#include <QToolButton>
 
 #include "platform/qt/colors.h"
 #include "platform/qt/fonts.h"
@@ -191,10 +190,9 @@ void LineView::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ColorO
 ToolBarView::ToolBarView(ToolBar& bar, const ViewContext& context, QWidget* parent)
     : ControlView(bar, context, parent) {
     for (const ToolButton& button : bar.Buttons) {
-        auto* const view = new QToolButton(this);
+        auto* const view = buttons_.emplace_back(new QToolButton(this));
         view->setText(QString::fromStdString(button.Caption));
         view->setToolTip(QString::fromStdString(button.ToolTip));
-        view->setIcon(BuiltInIcon(QString::fromStdString(button.Picture)));
         view->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         view->setFocusPolicy(Qt::TabFocus);
         connect(view, &QToolButton::clicked, this,
@@ -205,10 +203,14 @@ ToolBarView::ToolBarView(ToolBar& bar, const ViewContext& context, QWidget* pare
 void ToolBarView::Sync() {
     ControlView::Sync();
     constexpr int kIconPixels = 48;
+    const int pixels = context_.Scale.Enlarged(kIconPixels);
     int left = 0;
-    for (auto* const view : findChildren<QToolButton*>()) {
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        QToolButton* const view = buttons_[i];
+        const auto picture = QString::fromStdString(control_.Buttons[i].Picture);
         view->setFont(FontOf({}, context_.Scale));
-        view->setIconSize(QSize(1, 1) * context_.Scale.Enlarged(kIconPixels));
+        view->setIcon(QPixmap::fromImage(BuiltInPicture(picture, qCeil(pixels * devicePixelRatioF()))));
+        view->setIconSize({pixels, pixels});
         view->setGeometry(context_.Scale.Pixels(Place{left, 0, control_.ButtonWidth, control_.ButtonHeight}));
         left += control_.ButtonWidth;
     }

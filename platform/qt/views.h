@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <functional>
 #include <vector>
 
@@ -171,6 +172,9 @@ class ToolBarView : public ControlView<QWidget, ToolBar> {
   public:
     ToolBarView(ToolBar& bar, const ViewContext& context, QWidget* parent);
     void Sync() override;
+
+  private:
+    std::vector<QToolButton*> buttons_;
 };
 
 class StatusBarView : public ControlView<QWidget, StatusBar> {
