@@ -1,8 +1,29 @@
 #include "platform/qt/scaled_style.h"
 
 #include <QStyleFactory>
+#include <QWidget>
+
+#include "platform/qt/pictures.h"
 
 namespace zarpel {
+namespace {
+
+const char* BoxPicture(QStyle::StandardPixmap icon) {
+    switch (icon) {
+        case QStyle::SP_MessageBoxInformation:
+            return ":/informacion.png";
+        case QStyle::SP_MessageBoxQuestion:
+            return ":/pregunta.png";
+        case QStyle::SP_MessageBoxWarning:
+            return ":/aviso.png";
+        case QStyle::SP_MessageBoxCritical:
+            return ":/error.png";
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace
 
 ScaledStyle::ScaledStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
@@ -10,6 +31,15 @@ ScaledStyle::ScaledStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("F
 int ScaledStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
     return pixels > 0 ? scale_.Enlarged(pixels) : pixels;
+}
+
+QIcon ScaledStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const {
+    const char* const picture = BoxPicture(icon);
+    if (!picture) return QProxyStyle::standardIcon(icon, option, widget);
+    const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
+    const int pixels = qCeil(pixelMetric(PM_MessageBoxIconSize, option, widget) * ratio);
+    return QPixmap::fromImage(BuiltInPicture(picture, pixels));
 }
 
 // The base style adds gaps of fixed size to the entries of menus; what is missing of them is added here.

@@ -16,6 +16,8 @@ class ScaledStyle : public QProxyStyle {
     void Use(const Scale& scale) { scale_ = scale; }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    // Those of message boxes are the game's own, which are drawn for every size.
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
 

@@ -38,9 +38,16 @@ struct Icon {
 };
 
 const Icon kIcons[] = {
-    {"nuevo", "nuevo", {48, 96, 192}},        {"run", "run", {48, 96, 192}},
-    {"salir", "salir", {48, 96, 192}},        {"acerca", "acerca", {48, 96, 192}},
-    {"zarpel-chico", "zarpel", {16, 22, 24}}, {"zarpel", "zarpel", {32, 48, 64, 128, 256, 512}},
+    {"nuevo", "nuevo", {48, 96, 192}},
+    {"run", "run", {48, 96, 192}},
+    {"salir", "salir", {48, 96, 192}},
+    {"acerca", "acerca", {48, 96, 192}},
+    {"informacion", "informacion", {32, 64, 128}},
+    {"pregunta", "pregunta", {32, 64, 128}},
+    {"aviso", "aviso", {32, 64, 128}},
+    {"error", "error", {32, 64, 128}},
+    {"zarpel-chico", "zarpel", {16, 22, 24}},
+    {"zarpel", "zarpel", {32, 48, 64, 128, 256, 512}},
 };
 
 void drawIcons(const QString& from, const QString& to) {
@@ -126,10 +133,8 @@ void drawAll(const QString& dataFolder, const QString& outFolder) {
     const Deck deck(dataFolder);
     QStringList names;
     for (int index = 1; index <= kCards; ++index) {
-        const auto svg = deck.card(index);
         const auto name = deck.fileName(index);
-        writePng(out.filePath("app/" + name), withPalette(draw(svg, kCardPixels)));
-        writePng(out.filePath("ayuda/" + name), draw(svg, kHelpPixels));
+        writePng(out.filePath("app/" + name), withPalette(draw(deck.card(index), kCardPixels)));
         names << name;
     }
     QFile list(out.filePath("app/naipe.dat"));
@@ -140,7 +145,7 @@ void drawAll(const QString& dataFolder, const QString& outFolder) {
     const auto back = deck.back();
     writeJpeg(out.filePath("app/dibujo.jpg"), draw(back, kCardPixels));
     writeJpeg(out.filePath("builtin/dorso.jpg"), draw(back, kBuiltinBackPixels));
-    writePng(out.filePath("ayuda/dorso.png"), draw(back, kHelpPixels));
+    writePng(out.filePath("ayuda/dorso.png"), withPalette(draw(back, kCardPixels)));
     drawIcons(dataFolder + "/iconos", out.filePath("builtin"));
 }
 

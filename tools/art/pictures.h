@@ -1,10 +1,9 @@
 // Draws every picture of the game from its vector sources and writes them below one folder:
 //
 // app/      what lies beside the executable: the 40 cards, "dibujo.jpg" (the card back) and "naipe.dat"
-// builtin/  what is compiled into the game: "dorso.jpg" (the back it starts with), the toolbar's and the
-// About
-//           window's pictures and the program's icon
-// ayuda/    the cards and the back in small, for the help's pages
+// builtin/  what is compiled into the game: "dorso.jpg" (the back it starts with), the pictures of the
+//           toolbar, the boxes and the About window, and the program's icon
+// ayuda/    the back with see-through corners: the help shows it, and the cards of app/
 #pragma once
 
 #include <QImage>
@@ -14,7 +13,6 @@ namespace zarpel {
 
 // Pixels of a card picture: a hand card of a 3840 x 2160 table is 364 x 503, a table card 300 x 469.
 constexpr QSize kCardPixels{364, 534};
-constexpr QSize kHelpPixels{80, 118};
 constexpr QSize kBuiltinBackPixels{95, 150};
 
 // Writes all of it; folders are made as needed. Throws std::runtime_error when a source or a file fails.

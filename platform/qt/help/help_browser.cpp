@@ -12,13 +12,14 @@ namespace {
 constexpr int kSmallestZoom = 50;
 constexpr int kLargestZoom = 300;
 constexpr int kZoomStep = 10;
-constexpr qreal kReadingSize = 11;     // points, never smaller at 100 %
-constexpr int kLargestPicture = 4096;  // pixels a side
+constexpr int kReadingSize = 15;        // pixels, the height of letters at which the pages were laid out
+constexpr qreal kPictureDetail = 4.55;  // pictures are so many times larger than they stand in a page
+constexpr int kLargestPicture = 4096;   // pixels a side
 
 }  // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent)
-    : QTextBrowser(parent), normalSize_(std::max(kReadingSize, font().pointSizeF())) {
+    : QTextBrowser(parent), enlargement_(std::max(1.0, qreal(fontInfo().pixelSize()) / kReadingSize)) {
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
     QPalette paper = palette();
@@ -42,7 +43,7 @@ void HelpBrowser::SetZoom(int percent) {
     QScrollBar* const bar = verticalScrollBar();
     const double place = bar->maximum() > 0 ? double(bar->value()) / bar->maximum() : 0;
     QFont scaled = font();
-    scaled.setPointSizeF(normalSize_ * zoom_ / 100);
+    scaled.setPixelSize(qRound(kReadingSize * enlargement_ * zoom_ / 100));
     setFont(scaled);
     if (!source().isEmpty()) reload();  // pictures are scaled as they are loaded
     bar->setValue(qRound(place * bar->maximum()));
@@ -71,10 +72,13 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
 }
 
 QImage HelpBrowser::Picture(const QUrl& address) const {
-    QImage image = QImage::fromData(file_->Object(address));
+    // Scaling a picture that has a palette would leave it the palette, and a coarse grain.
+    const QImage image =
+        QImage::fromData(file_->Object(address)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return image;
     const qreal ratio = devicePixelRatioF();
-    const QSize wanted = (QSizeF(image.size()) * zoom_ / 100 * ratio).toSize();
+    const QSize wanted =
+        (QSizeF(image.size()) / kPictureDetail * enlargement_ * zoom_ / 100 * ratio).toSize();
     QImage scaled = image.scaled(wanted.boundedTo({kLargestPicture, kLargestPicture}), Qt::KeepAspectRatio,
                                  Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);

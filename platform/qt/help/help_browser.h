@@ -20,6 +20,10 @@ class HelpBrowser : public QTextBrowser {
     void SetFile(std::optional<HelpFile> file);
     const std::optional<HelpFile>& file() const { return file_; }
 
+    // How much larger pages are at 100 % than they were laid out, so that their letters are never smaller
+    // than the application's.
+    qreal Enlargement() const { return enlargement_; }
+
     // Letters and pictures at `percent` of their normal size, within sensible limits; the place in the page
     // is kept.
     void SetZoom(int percent);
@@ -37,10 +41,10 @@ class HelpBrowser : public QTextBrowser {
     QImage Picture(const QUrl& address) const;
 
     std::optional<HelpFile> file_;
-    QUrl page_;         // the page on the screen or being loaded, when source() still names the one before
-    qreal normalSize_;  // points
-    int zoom_ = 100;    // percent
-    int wheel_ = 0;     // eighths of a degree turned with Ctrl that do not make a notch yet
+    QUrl page_;  // the page on the screen or being loaded, when source() still names the one before
+    qreal enlargement_;
+    int zoom_ = 100;  // percent
+    int wheel_ = 0;   // eighths of a degree turned with Ctrl that do not make a notch yet
 };
 
 }  // namespace zarpel

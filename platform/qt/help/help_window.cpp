@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QSplitter>
-#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -18,7 +17,7 @@
 namespace zarpel {
 namespace {
 
-constexpr QSize kUsualSize(1000, 760);  // pixels, where the screen has room for it
+constexpr QSize kUsualSize(1000, 760);  // pixels, as the pages were laid out, where there is room for it
 constexpr int kContentsShare = 27;      // per cent of the width
 constexpr int kPageRole = Qt::UserRole;
 
@@ -54,7 +53,7 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent)
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkPage);
     connect(MakeAction({}, {Qt::Key_Escape}, {}), &QAction::triggered, this, &HelpWindow::Leave);
 
-    resize(kUsualSize.boundedTo(screen()->availableSize() * 95 / 100));
+    resize((kUsualSize * page_->Enlargement()).boundedTo(screen()->availableSize() * 95 / 100));
     halves->setSizes({width() * kContentsShare / 100, width() * (100 - kContentsShare) / 100});
     Read();
 }
@@ -72,8 +71,6 @@ QAction* HelpWindow::MakeAction(const QString& text, const QList<QKeySequence>& 
 
 QToolBar* HelpWindow::MakeToolBar() {
     auto* const bar = new QToolBar;
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar->setIconSize({16, 16});
 
     auto* const back = MakeAction(tr("Atrás"), {Qt::ALT | Qt::Key_Left, Qt::Key_Back}, tr("Alt+Izquierda"));
     auto* const forward =
@@ -84,8 +81,6 @@ QToolBar* HelpWindow::MakeToolBar() {
     auto* const larger =
         MakeAction(tr("Más grande"), {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, tr("Ctrl++"));
     auto* const normal = MakeAction(tr("Tamaño normal"), {Qt::CTRL | Qt::Key_0}, tr("Ctrl+0"));
-    back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     back->setEnabled(false);
     forward->setEnabled(false);
 
@@ -124,7 +119,6 @@ QWidget* HelpWindow::MakeSearchBar() {
     searchText_ = new QLineEdit;
     searchText_->setAccessibleName(tr("Texto que se busca"));
     searchText_->setContextMenuPolicy(Qt::NoContextMenu);
-    searchText_->setMaximumWidth(280);
     searchResult_ = new QLabel;
     auto* const label = new QLabel(tr("Buscar en la página:"));
     label->setBuddy(searchText_);
