@@ -12,7 +12,6 @@
 #include <QWheelEvent>
 
 #include "platform/qt/help/help_browser.h"
-#include "tests/help/sample_help.h"
 
 namespace zarpel {
 namespace {
@@ -21,15 +20,15 @@ namespace {
 class Window : public testing::Test {
   protected:
     void SetUp() override {
-        WriteBytes(path, BytesOf(GuidePath()));
+        ASSERT_TRUE(QFile::copy(HELP_FILE, path));
         window.Present();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     std::string Shown() const { return page.source().toString().toStdString(); }
-    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window, Qt::Key(key),
-                        modifiers);
+    std::string Entry() const { return contents.currentItem()->text(0).toStdString(); }
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(window.windowHandle(), key, modifiers);
     }
     void Choose(const char* title) {
         contents.setCurrentItem(contents.findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0));
@@ -43,58 +42,30 @@ class Window : public testing::Test {
     QLineEdit& searchText = *window.findChild<QLineEdit*>();
 };
 
-TEST_F(Window, EveryPageShowsItsPictures) {
-    int pictures = 0;
-    for (const QString& name : page.file()->paths()) {
-        if (!name.endsWith(".html")) continue;
-        page.setSource(HelpFile::Address(name));
-        EXPECT_EQ(Shown(), "chm:" + name.toStdString());
-        for (const QTextFormat& format : page.document()->allFormats()) {
-            if (!format.isImageFormat()) continue;
-            const QString picture = format.toImageFormat().name();
-            const QVariant shown = page.document()->resource(QTextDocument::ImageResource, picture);
-            EXPECT_EQ(shown.value<QImage>().size(), QSize(80, 118)) << qPrintable(name + ' ' + picture);
-            ++pictures;
-        }
-        EXPECT_FALSE(page.toPlainText().contains(QChar::ReplacementCharacter));
-    }
-    EXPECT_GT(pictures, 20);
-}
-
 TEST_F(Window, ContentsLinksAndHistoryLeadFromPageToPage) {
-    const auto expectAt = [&](const char* address, const char* entry) {
-        EXPECT_EQ(Shown(), address);
-        EXPECT_EQ(contents.currentItem()->text(0), entry);
-    };
-    expectAt("chm:/index.html", "Bienvenida a Zarpel");
-    EXPECT_EQ(window.windowTitle(), "Ayuda de Zarpel");
-    EXPECT_FALSE(window.isModal());
-    EXPECT_EQ(contents.topLevelItemCount(), 5);
-    for (const QWidget* const widget : {static_cast<QWidget*>(&contents), static_cast<QWidget*>(&page),
-                                        static_cast<QWidget*>(&searchText)}) {
-        EXPECT_FALSE(widget->accessibleName().isEmpty());
-    }
-    page.setFocus();
+    EXPECT_EQ(Shown() + " " + Entry(), "chm:/index.html Bienvenida a Zarpel");
     Press(Qt::Key_Tab);
     Press(Qt::Key_Return);
     const std::string linked = Shown();
     EXPECT_NE(linked, "chm:/index.html");
     Press(Qt::Key_Left, Qt::AltModifier);
-    expectAt("chm:/index.html", "Bienvenida a Zarpel");
+    EXPECT_EQ(Shown() + " " + Entry(), "chm:/index.html Bienvenida a Zarpel");
     Press(Qt::Key_Right, Qt::AltModifier);
     EXPECT_EQ(Shown(), linked);
     Press(Qt::Key_Home, Qt::AltModifier);
     EXPECT_EQ(Shown(), "chm:/index.html");
 
-    Choose("Los puntos");
-    EXPECT_EQ(Shown(), "chm:/puntos.html");
+    EXPECT_EQ(contents.topLevelItemCount(), 5);
     Choose("Preguntas");
     EXPECT_EQ(Shown(), "chm:/mensajes.html#preguntas");
     EXPECT_GT(page.verticalScrollBar()->value(), 0) << "at the place in the page that the entry names";
-    Choose("Cómo se maneja");
-    expectAt("chm:/mensajes.html#preguntas", "Cómo se maneja");  // a heading without a page
+    Choose("Cómo se maneja");  // a heading without a page
+    EXPECT_EQ(Shown() + " " + Entry(), "chm:/mensajes.html#preguntas Cómo se maneja");
     page.setSource(QUrl("zarpel.html"));
-    expectAt("chm:/zarpel.html", "El zarpel");
+    EXPECT_EQ(Shown() + " " + Entry(), "chm:/zarpel.html El zarpel");
+    for (const QWidget* const widget : std::initializer_list<QWidget*>{&contents, &page, &searchText}) {
+        EXPECT_FALSE(widget->accessibleName().isEmpty());
+    }
 }
 
 TEST_F(Window, NothingOutsideTheFileIsFollowedOrLoaded) {
@@ -104,31 +75,28 @@ TEST_F(Window, NothingOutsideTheFileIsFollowedOrLoaded) {
           "chm:/../../etc/passwd", "qrc:/qt-project.org/qmessagebox/images/qtlogo-64.png"}) {
         page.setSource(QUrl(address));
         EXPECT_EQ(Shown(), "chm:/index.html") << address;
-        for (const int type : {QTextDocument::ImageResource, QTextDocument::StyleSheetResource}) {
-            const QVariant resource = page.loadResource(type, QUrl(address));
-            EXPECT_TRUE(resource.value<QImage>().isNull() && resource.toByteArray().isEmpty()) << address;
-        }
+        const QVariant image = page.loadResource(QTextDocument::ImageResource, QUrl(address));
+        const QVariant style = page.loadResource(QTextDocument::StyleSheetResource, QUrl(address));
+        EXPECT_TRUE(image.value<QImage>().isNull() && style.toByteArray().isEmpty()) << address;
     }
 }
 
 TEST_F(Window, CtrlAndWheelZoomLettersAndPicturesAndKeepTheHistory) {
     page.setSource(QUrl("baraja.html"));
-    const auto wheel = [&](int delta) {
-        QWheelEvent event({50, 50}, page.mapToGlobal(QPointF(50, 50)), {}, {0, delta}, Qt::NoButton,
+    const auto wheel = [&](int notches) {
+        QWheelEvent event({50, 50}, page.mapToGlobal(QPointF(50, 50)), {}, {0, 120 * notches}, Qt::NoButton,
                           Qt::ControlModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(page.viewport(), &event);
     };
     const qreal letters = page.font().pointSizeF();
-    for (int i = 0; i < 5; ++i) wheel(120);
-    EXPECT_EQ(page.zoom(), 150);
+    wheel(5);
     EXPECT_DOUBLE_EQ(page.font().pointSizeF(), letters * 1.5);
     const QVariant card = page.document()->resource(QTextDocument::ImageResource, QUrl("naipes/oro01.png"));
     EXPECT_EQ(card.value<QImage>().width(), 120);
-    for (int i = 0; i < 100; ++i) wheel(-120);
+    wheel(-100);
     EXPECT_EQ(page.zoom(), 50);
     Press(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(page.zoom(), 100);
-    EXPECT_EQ(Shown(), "chm:/baraja.html");
     Press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(Shown(), "chm:/index.html");
 }
@@ -136,19 +104,19 @@ TEST_F(Window, CtrlAndWheelZoomLettersAndPicturesAndKeepTheHistory) {
 TEST_F(Window, FindGoesRoundThePageAndEscapeLeavesStepByStep) {
     page.setSource(QUrl("puntos.html"));
     Press(Qt::Key_F, Qt::ControlModifier);
-    ASSERT_TRUE(searchText.hasFocus());
-    QTest::keyClicks(&searchText, "velo");
+    QTest::keyClicks(QApplication::focusWidget(), "velo");
     QList<int> places;
-    for (int i = 0; i < 20; ++i) {
-        Press(i == 0 ? Qt::Key_Return : Qt::Key_F3);
+    do {
+        Press(places.isEmpty() ? Qt::Key_Return : Qt::Key_F3);
         EXPECT_EQ(page.textCursor().selectedText().toLower(), "velo");
-        places.append(page.textCursor().position());
-    }
-    EXPECT_EQ(places.count(places.first()), 20 / (places.indexOf(places.first(), 1))) << "round and round";
+        places << page.textCursor().position();
+    } while (places.size() < 50 && places.lastIndexOf(places.first()) == 0);
+    EXPECT_GT(places.size(), 2);
+    EXPECT_EQ(places.last(), places.first()) << "round and round";
     Press(Qt::Key_F3, Qt::ShiftModifier);
     searchText.setText("quimera");
     Press(Qt::Key_F3);
-    EXPECT_EQ(page.textCursor().position(), places.at(18)) << "not found: the page stays where it is";
+    EXPECT_EQ(page.textCursor().position(), places.at(places.size() - 2)) << "not found: nothing moves";
 
     Press(Qt::Key_Escape);
     EXPECT_TRUE(window.isVisible() && !searchText.isVisible());
@@ -159,22 +127,23 @@ TEST_F(Window, FindGoesRoundThePageAndEscapeLeavesStepByStep) {
 TEST_F(Window, AMissingOrDamagedFileIsToldAndMendedByOpeningAgain) {
     const auto expectTold = [&](const QString& text) {
         window.Present();
-        EXPECT_TRUE(page.toPlainText().contains(text)) << qPrintable(page.toPlainText());
+        EXPECT_TRUE(page.toPlainText().contains(text) && page.toPlainText().contains(path));
         EXPECT_FALSE(contents.isVisible());
+        for (QAction* const action : window.actions()) action->trigger();  // none may stumble over it
     };
-    ASSERT_TRUE(QFile::remove(path));
-    expectTold("No se encuentra el archivo de la ayuda");
-    expectTold(path);
-    for (QAction* const action : window.actions()) action->trigger();  // none may stumble over it
-    WriteBytes(path, BytesOf(GuidePath()).left(4000));
-    expectTold("está dañado");
-
-    WriteBytes(path, BytesOf(GuidePath()));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    uchar* const middle = file.map(file.size() / 2, 1);
+    *middle ^= 1;
+    expectTold("está dañado");  // for one wrong bit
+    *middle ^= 1;
     window.Present();
     EXPECT_TRUE(contents.isVisible());
     page.setSource(QUrl("zarpel.html"));
     window.Present();
     EXPECT_EQ(Shown(), "chm:/index.html") << "opened again, the help begins at its first page";
+    ASSERT_TRUE(file.remove());
+    expectTold("No se encuentra el archivo de la ayuda");
 }
 
 }  // namespace

@@ -12,14 +12,14 @@ namespace {
 constexpr int kSmallestZoom = 50;
 constexpr int kLargestZoom = 300;
 constexpr int kZoomStep = 10;
-constexpr int kReadingSize = 15;        // pixels, the height of letters at which the pages were laid out
+constexpr qreal kReadingSize = 11;      // points, the size of letters for which the pages were laid out
 constexpr qreal kPictureDetail = 4.55;  // pictures are so many times larger than they stand in a page
-constexpr int kLargestPicture = 4096;   // pixels a side
+constexpr int kLargestPicture = 4096;   // pixels across
 
 }  // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent)
-    : QTextBrowser(parent), enlargement_(std::max(1.0, qreal(fontInfo().pixelSize()) / kReadingSize)) {
+    : QTextBrowser(parent), enlargement_(std::max(1.0, fontInfo().pointSizeF() / kReadingSize)) {
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
     QPalette paper = palette();
@@ -43,7 +43,7 @@ void HelpBrowser::SetZoom(int percent) {
     QScrollBar* const bar = verticalScrollBar();
     const double place = bar->maximum() > 0 ? double(bar->value()) / bar->maximum() : 0;
     QFont scaled = font();
-    scaled.setPixelSize(qRound(kReadingSize * enlargement_ * zoom_ / 100));
+    scaled.setPointSizeF(kReadingSize * enlargement_ * zoom_ / 100);
     setFont(scaled);
     if (!source().isEmpty()) reload();  // pictures are scaled as they are loaded
     bar->setValue(qRound(place * bar->maximum()));
@@ -77,10 +77,8 @@ QImage HelpBrowser::Picture(const QUrl& address) const {
         QImage::fromData(file_->Object(address)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return image;
     const qreal ratio = devicePixelRatioF();
-    const QSize wanted =
-        (QSizeF(image.size()) / kPictureDetail * enlargement_ * zoom_ / 100 * ratio).toSize();
-    QImage scaled = image.scaled(wanted.boundedTo({kLargestPicture, kLargestPicture}), Qt::KeepAspectRatio,
-                                 Qt::SmoothTransformation);
+    const int wanted = qRound(image.width() / kPictureDetail * enlargement_ * zoom_ / 100 * ratio);
+    QImage scaled = image.scaledToWidth(std::min(wanted, kLargestPicture), Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);
     return scaled;
 }
