@@ -104,7 +104,7 @@ TEST_F(Window, CtrlAndWheelZoomLettersAndPicturesAndKeepTheHistory) {
 TEST_F(Window, FindGoesRoundThePageAndEscapeLeavesStepByStep) {
     page.setSource(QUrl("puntos.html"));
     Press(Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(QApplication::focusWidget(), "velo");
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("VÉLO"));
     QList<int> places;
     do {
         Press(places.isEmpty() ? Qt::Key_Return : Qt::Key_F3);

@@ -23,6 +23,15 @@ constexpr int kPageRole = Qt::UserRole;
 
 QUrl PageOf(const QTreeWidgetItem* item) { return item->data(0, kPageRole).toUrl(); }
 
+// As long as the text, in small letters without accents: who looks for "raton" means "Ratón".
+QString Folded(QString text) {
+    for (QChar& letter : text) {
+        const QString parts = letter.decomposition();
+        letter = (parts.isEmpty() ? letter : parts.front()).toLower();
+    }
+    return text;
+}
+
 }  // namespace
 
 HelpWindow::HelpWindow(const QString& file, QWidget* parent)
@@ -236,16 +245,19 @@ void HelpWindow::Search(bool backwards) {
         OpenSearch();
         return;
     }
-    const QTextDocument::FindFlags flags =
-        backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-    bool found = page_->find(searchText_->text(), flags);
-    if (!found) {
-        const QTextCursor before = page_->textCursor();
-        page_->moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
-        found = page_->find(searchText_->text(), flags);
-        if (!found) page_->setTextCursor(before);
-    }
-    searchResult_->setText(found ? QString() : tr("No se encuentra en esta página"));
+    const QString text = Folded(page_->toPlainText());
+    const QString wanted = Folded(searchText_->text());
+    QTextCursor at = page_->textCursor();
+    const auto start = at.selectionStart();
+    qsizetype found = -1;
+    if (!backwards) found = text.indexOf(wanted, at.selectionEnd());
+    if (backwards && start > 0) found = text.lastIndexOf(wanted, start - 1);
+    if (found < 0) found = backwards ? text.lastIndexOf(wanted) : text.indexOf(wanted);
+    searchResult_->setText(found < 0 ? tr("No se encuentra en esta página") : QString());
+    if (found < 0) return;
+    at.setPosition(static_cast<int>(found));
+    at.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, static_cast<int>(wanted.size()));
+    page_->setTextCursor(at);
 }
 
 }  // namespace zarpel
