@@ -3,11 +3,11 @@
 // real one.
 #pragma once
 
-#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
 #include <random>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -48,9 +48,8 @@ class ScriptedDesktop : public Desktop {
 
     // --- Recorded ---
     std::vector<Message> Boxes;
-    std::vector<int> Pauses;         // milliseconds
     std::vector<std::string> Calls;  // everything asked of the desktop that the player sees, in order
-    std::vector<Form*> Shown;        // the lowest first
+    std::set<Form*> Shown;
 
     // The texts of the boxes since the last call of this function.
     std::vector<std::string> TakeBoxTexts() {
@@ -63,16 +62,14 @@ class ScriptedDesktop : public Desktop {
     std::string Title() const override { return "Zarpel"; }
     std::string Folder() const override { return "C:\\Zarpel"; }
     Place Screen() const override { return {0, 0, 28800, 16200}; }
-    void Show(Form& form) override {
-        if (!IsShown(form)) Shown.push_back(&form);
-    }
+    void Show(Form& form) override { Shown.insert(&form); }
     void ShowModal(Form& form) override {
         Calls.push_back("modal " + form.Caption.get());
-        Shown.push_back(&form);
-        Take(Modal, {[](Form& shown) { shown.Form_QueryClose(); }})(form);
-        if (IsShown(form)) form.Form_QueryClose();
+        Show(form);
+        Take(Modal, [](Form&) {})(form);
+        if (Shown.contains(&form)) form.Form_QueryClose();
     }
-    void Unload(Form& form) override { std::erase(Shown, &form); }
+    void Unload(Form& form) override { Shown.erase(&form); }
     Answer Show(const Message& message) override {
         Calls.push_back("box " + message.Text);
         Boxes.push_back(message);
@@ -106,7 +103,6 @@ class ScriptedDesktop : public Desktop {
     }
     void Pause(int milliseconds) override {
         Calls.push_back("pause " + std::to_string(milliseconds));
-        Pauses.push_back(milliseconds);
         OnPause();
     }
     void Randomize() override {}
@@ -137,9 +133,6 @@ class ScriptedDesktop : public Desktop {
         const std::string name = Take(Chosen, {});
         if (!name.empty()) dialog.FileName = name;
         return !name.empty();
-    }
-    bool IsShown(const Form& form) const {
-        return std::find(Shown.begin(), Shown.end(), &form) != Shown.end();
     }
 
     std::mt19937 generator_;

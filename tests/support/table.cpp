@@ -43,7 +43,6 @@ void Table::Lay(const std::vector<int>& mesa, const std::vector<int>& humano, co
     LayCards(Window, mesa, humano, cpu);
     Desktop.Boxes.clear();
     Desktop.Calls.clear();
-    Desktop.Pauses.clear();
     captions_.clear();
 }
 
@@ -54,6 +53,13 @@ std::vector<int> Table::InHand(char clase) {
         if (slot.Clase == clase && slot.Ocupado()) cards.push_back(slot.Carta());
     }
     return cards;
+}
+
+std::string Table::Selected() {
+    std::string keys;
+    for (int i = 0; i < kLugaresMano; ++i) keys.append(Window.SlotHumano(i).Elegido(), "123"[i]);
+    for (int i = 0; i < kLugaresMesa; ++i) keys.append(Window.SlotMesa(i).Elegido(), "ASDFGHJK"[i]);
+    return keys;
 }
 
 }  // namespace zarpel

@@ -25,7 +25,7 @@ struct Table {
     // Starts the program; the first match is dealt, and the human is to move when `humanFirst`.
     explicit Table(unsigned seed = 1, bool humanFirst = true);
 
-    // As LayCards; forgets the boxes, calls and pauses so far.
+    // As LayCards; forgets the boxes, calls and captions so far.
     void Lay(const std::vector<int>& mesa, const std::vector<int>& humano, const std::vector<int>& cpu);
 
     // Presses keys, one a character, as the player would; Shift is held for all of them or for none.
@@ -43,6 +43,9 @@ struct Table {
     // The indexes of the cards shown in a hand (any row, by its kind letter), or on the table, in slot order.
     std::vector<int> InHand(char clase);
     std::vector<int> OnTable() { return InHand(clase::kMesa); }
+
+    // The keys of the cards that are selected, those of the hand first.
+    std::string Selected();
 
     ScriptedDesktop Desktop;
     Playing Window{Desktop};
