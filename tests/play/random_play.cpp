@@ -56,37 +56,34 @@ class RandomMatch {
     void ActSensibly() {
         const std::vector<Slot> capture = FindCapture();
         if (capture.empty() || (!Chance(sense_) && !window_.MesaLlena())) {
-            const int i = player_.Below(kLugaresMano);
-            return Chance(50) ? window_.Frame1.DragDrop(window_.SlotHumano(i).Imagen)
-                              : window_.Form_KeyDown('1' + i, kShift);
+            return window_.Form_KeyDown('1' + player_.Below(kLugaresMano), kShift);
         }
-        for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-            const Slot slot = window_.SlotDePosicion(codigo);
-            if (slot.Elegido()) slot.Imagen.Click();
-        }
+        window_.EmprolijaDesktop();
         for (const Slot& slot : capture) slot.Imagen.Click();
         table_.Press("L");
     }
 
     // A card of the hand and cards of the table that make 15, if there are any. Found by trying every set of
-    // places, unlike the game.
+    // cards, unlike the game.
     std::vector<Slot> FindCapture() {
-        const auto value = [](const Slot& slot) { return slot.Ocupado() ? slot.Numero() : kSumaDeLevante; };
-        for (unsigned set = 1; set < 1U << kLugaresMesa; ++set) {
-            std::vector<Slot> cards;
-            int sum = 0;
-            for (int i = 0; i < kLugaresMesa; ++i) {
-                if ((set >> i & 1) == 0) continue;
-                cards.push_back(window_.SlotMesa(i));
-                sum += value(cards.back());
-            }
-            for (int i = 0; i < kLugaresMano; ++i) {
-                cards.push_back(window_.SlotHumano(i));
-                if (sum + value(cards.back()) == kSumaDeLevante) return cards;
-                cards.pop_back();
-            }
+        for (int i = 0; i < kLugaresMano; ++i) {
+            const Slot mano = window_.SlotHumano(i);
+            std::vector<Slot> cards = {mano};
+            if (mano.Ocupado() && Completes(cards, kSumaDeLevante - mano.Numero())) return cards;
         }
         return {};
+    }
+
+    // Adds cards of the table, from place `from` on, that make `rest`; none, when there are none.
+    bool Completes(std::vector<Slot>& cards, int rest, int from = 0) {
+        for (int i = from; i < kLugaresMesa && rest > 0; ++i) {
+            const Slot mesa = window_.SlotMesa(i);
+            if (!mesa.Ocupado()) continue;
+            cards.push_back(mesa);
+            if (Completes(cards, rest - mesa.Numero(), i + 1)) return true;
+            cards.pop_back();
+        }
+        return rest == 0;
     }
 
     // Each card is in one place, and its owner tag says in which.
@@ -122,14 +119,11 @@ class RandomMatch {
             const Slot slot = window_.SlotDePosicion(codigo);
             const Altura altura = AlturaDe(slot.Clase);
             Require(slot.Imagen.Top == (slot.Elegido() ? altura.Levantada : altura.Reposo), "raised amiss");
+            Require(!slot.Imagen.Cover || slot.Imagen.Cover->Visible == slot.Ocupado(), "a back is amiss");
             if (!slot.Elegido()) continue;
             Require(slot.Ocupado() && slot.Clase != clase::kCpu, "what the human cannot select is selected");
             sum += slot.Numero();
             chosenOfHand += slot.Clase == clase::kHumano;
-        }
-        for (int i = 0; i < kLugaresMano; ++i) {
-            const Image& back = window_.fondop1img.at(static_cast<std::size_t>(i));
-            Require(back.Visible == window_.SlotCpu(i).Ocupado(), "a back is missing, or has no card");
         }
         const std::string& caption = window_.SumandoLbl.Caption;
         Require(sum == window_.Suma() && (caption.empty() ? 0 : std::stoi(caption)) == sum, "wrong sum");

@@ -1,28 +1,21 @@
 #include "tests/support/table.h"
 
 namespace zarpel {
-namespace {
-
-// Puts the card of this place of its row there, if there is one.
-void Fill(const Slot& slot, const std::vector<int>& row, int i, const std::string& duenio) {
-    const auto at = static_cast<std::size_t>(i);
-    const int carta = at < row.size() ? row[at] : 0;
-    slot.Imagen.Visible = carta != 0;
-    if (carta == 0) return;
-    slot.Imagen.Tag = std::to_string(carta);
-    slot.Imagen.Picture = Naipes->Mazo_Imagen(carta);
-    Naipes->aMazo_Duenio(carta, duenio);
-}
-
-}  // namespace
-
 void LayCards(Playing& window, const std::vector<int>& mesa, const std::vector<int>& humano,
               const std::vector<int>& cpu) {
+    const auto fill = [](const Slot& slot, const std::vector<int>& row, int i, const std::string& duenio) {
+        const int carta = i < std::ssize(row) ? row.at(static_cast<std::size_t>(i)) : 0;
+        slot.Imagen.Visible = carta != 0;
+        if (carta == 0) return;
+        slot.Imagen.Tag = std::to_string(carta);
+        slot.Imagen.Picture = Naipes->Mazo_Imagen(carta);
+        Naipes->aMazo_Duenio(carta, duenio);
+    };
     for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
-    for (int i = 0; i < kLugaresMesa; ++i) Fill(window.SlotMesa(i), mesa, i, duenios::kLaMesa);
+    for (int i = 0; i < kLugaresMesa; ++i) fill(window.SlotMesa(i), mesa, i, duenios::kLaMesa);
     for (int i = 0; i < kLugaresMano; ++i) {
-        Fill(window.SlotHumano(i), humano, i, duenios::kHumano);
-        Fill(window.SlotCpu(i), cpu, i, duenios::kCpu);
+        fill(window.SlotHumano(i), humano, i, duenios::kHumano);
+        fill(window.SlotCpu(i), cpu, i, duenios::kCpu);
         window.fondop1img.at(static_cast<std::size_t>(i)).Visible = window.SlotCpu(i).Ocupado();
     }
     window.EmprolijaDesktop();

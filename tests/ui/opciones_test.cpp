@@ -35,7 +35,7 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
     const std::string cat = "C:\\fotos\\gato.jpg", game = "C:\\juegos\\otro juego.exe";
     const std::string programs = "open (*.exe)|*.exe|(*.bat)|*.bat|(*.com)|*.com|Todos(*.*)|*.* ";
     const std::string pictures = "open Imagenes(*.jpg ;*.bmp)|*.jpg;*.bmp ";
-    const Message restart = {"Este cambio tendra efecto cuando reinicie el juego"};
+    const std::string restart = "box Este cambio tendra efecto cuando reinicie el juego";
     enum Part { kFondo, kRectangulo, kAplicacion, kReverso, kMarco };
     const struct {
         std::vector<Part> Clicks;
@@ -49,7 +49,7 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
         {{kRectangulo, kFondo}, {kRed}, {}, {kRed, kRed}, {"color 0", "color 255"}},
         {{kMarco}, {}, {}, {.Aplicacion = ""}, {programs}},
         {{kAplicacion, kReverso}, {}, {game}, {.Aplicacion = game}, {programs, pictures + game}},
-        {{kReverso}, {}, {cat}, {.Reverso = cat}, {pictures, "box " + restart.Text}},
+        {{kReverso}, {}, {cat}, {.Reverso = cat}, {pictures, restart}},
         {{kAplicacion, kMarco}, {}, {game}, {.Aplicacion = game}, {programs, programs + game}},
     };
     const std::function<void(Dialog&)> ways[] = {[](Dialog& dialog) { dialog.cmdOK.Click(); },
@@ -78,7 +78,7 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
             calls.insert(calls.begin(), "modal Opciones");
             if (accepts) calls.push_back("write C:\\Zarpel\\lastprop.dat");
             EXPECT_EQ(table.Desktop.TakeCalls(), calls);
-            for (const Message& box : table.Desktop.Boxes) EXPECT_EQ(box, restart);
+            for (const Message& box : table.Desktop.Boxes) EXPECT_EQ(box, Message{box.Text});
             const Values kept = accepts ? choice.Then : Values{};
             EXPECT_EQ(Of(table.Window), kept);
             table.Window.ResetGame();  // reads the file again
