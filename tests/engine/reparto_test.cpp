@@ -34,9 +34,9 @@ TEST(Reparto, WhoDoesNotDealMovesFirstInEveryDistribution) {
 TEST(Paso, NoTableIsEverStuck) {
     const std::string llena = "box La mesa está llena y ninguna de sus cartas suma 15: pasa el turno";
     const std::string ninguno = "box Ninguno de los dos puede jugar: se reparte de nuevo";
-    const std::string wait = "pause 1500", cpu = "Juega Cpu", yo = "Juega Humano",
-                      reparte = "Reparte Cpu - Juega Humano";
-    const std::string paso = "Paso", lleva = "Me llevo estas cartas", laid = "He Jugado una carta";
+    const std::string wait = "pause 1500", paso = "Paso", reparte = "Reparte Cpu - Juega Humano";
+    const std::string cpu = "Juega Cpu", yo = "Juega Humano";
+    const std::string lleva = "Me llevo estas cartas", laid = "He Jugado una carta";
     constexpr int kStuck = Card(8, 'o'), kStuckToo = Card(8, 'c'), kTakesEight = Card(7, 'o');
     constexpr int kTakesNine = Card(6, 'e'), kBlind = Card(5, 'e');  // to 2 and 8
     const struct {
