@@ -15,21 +15,21 @@ TEST(Puntos, ADealIsShownThenScoredAndFifteenEndTheMatch) {
     const Message draw = {"JUEGO EMPATADO", Icon::Exclamation};
     const Message offer = {"¿Jugar de nuevo?", Icon::Question, "Fin de Juego", Buttons::YesNo};
     const struct {
-        int First, Last;  // the computer has won the cards of these indexes, the human the rest
-        std::string Ultimo;
-        std::int16_t ZarpelCpu, ZarpelHumano;
-        const char* Figures;         // the computer's and the human's, row by row
-        std::int16_t Cpu, Humano;    // points before the deal ...
-        std::string Points;          // ... and after it
+        int First, Last;             // the computer has won the cards of these indexes, the human the rest
+        std::int16_t Zarpels[2];     // the computer's and the human's ...
+        std::int16_t Before[2];      // ... and their points before the deal
+        std::string Ultimo;          // the last capturer
+        const char* Figures;         // of both, row by row
+        std::string Points;          // after the deal
         std::vector<Message> Boxes;  // none: the match goes on
     } cases[] = {
-        {7, 27, cpu, 1, 0, "24 16 7 3 3 1 1 0 1 0 ", 0, 0, "5-0", {}},
-        {1, 20, humano, 2, 3, "20 20 0 10 2 2 0 1 2 3 ", 0, 0, "2-5", {}},
-        {27, 37, humano, 0, 0, "11 29 4 6 2 2 1 0 0 0 ", 0, 0, "1-2", {}},
-        {0, 0, humano, 0, 0, "0 40 0 10 0 4 0 1 0 0 ", 14, 10, "14-14", {}},
-        {21, 37, cpu, 0, 0, "20 20 10 0 2 2 1 0 0 0 ", 13, 14, "15-14", {winCpu, offer}},
-        {1, 25, humano, 0, 0, "25 15 5 5 2 2 0 1 0 0 ", 14, 14, "15-15", {draw, offer}},
-        {1, 25, humano, 0, 1, "25 15 5 5 2 2 0 1 0 1 ", 14, 14, "15-16", {winHuman, offer}},
+        {7, 27, {1, 0}, {0, 0}, cpu, "24 16 7 3 3 1 1 0 1 0 ", "5-0", {}},
+        {1, 20, {2, 3}, {0, 0}, humano, "20 20 0 10 2 2 0 1 2 3 ", "2-5", {}},
+        {27, 37, {0, 0}, {0, 0}, humano, "11 29 4 6 2 2 1 0 0 0 ", "1-2", {}},
+        {0, 0, {0, 0}, {14, 10}, humano, "0 40 0 10 0 4 0 1 0 0 ", "14-14", {}},
+        {21, 37, {0, 0}, {13, 14}, cpu, "20 20 10 0 2 2 1 0 0 0 ", "15-14", {winCpu, offer}},
+        {1, 25, {0, 0}, {14, 14}, humano, "25 15 5 5 2 2 0 1 0 0 ", "15-15", {draw, offer}},
+        {1, 25, {0, 1}, {14, 14}, humano, "25 15 5 5 2 2 0 1 0 1 ", "15-16", {winHuman, offer}},
     };
     for (const auto& c : cases) {
         for (const bool again : {true, false}) {
@@ -37,10 +37,10 @@ TEST(Puntos, ADealIsShownThenScoredAndFifteenEndTheMatch) {
             Table table;
             Naipes->aNombrejugador("Ana");
             Naipes->aRepartidas(classnaipe::kCartas);
-            Naipes->aPuntajecpu(c.Cpu);
-            Naipes->aPuntajehumano(c.Humano);
-            Reparto->aZarpelP1(c.ZarpelCpu);
-            Reparto->aZarpelP2(c.ZarpelHumano);
+            Naipes->aPuntajecpu(c.Before[0]);
+            Naipes->aPuntajehumano(c.Before[1]);
+            Reparto->aZarpelP1(c.Zarpels[0]);
+            Reparto->aZarpelP2(c.Zarpels[1]);
             Reparto->aUltimoqLevanta(c.Ultimo);
             table.Lay({38, 39, 40}, {}, {});
             for (int i = 1; i < 38; ++i) {

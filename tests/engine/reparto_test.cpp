@@ -42,14 +42,14 @@ TEST(Paso, NoTableIsEverStuck) {
     const struct {
         const char* What;
         std::vector<int> Humano, Cpu;
-        char Mover;
         Texts Calls, Captions;
+        char Mover;
         bool Annulled = false;
     } cases[] = {
-        {"human", {kStuck}, {kTakesNine, kStuckToo}, 'p', {llena, wait}, {cpu, lleva, yo}},
-        {"computer", {kTakesEight}, {kBlind}, 'c', {wait}, {cpu, paso, yo}},
-        {"both", {kStuck}, {kStuckToo}, 'p', {llena, wait, ninguno}, {cpu, paso, reparte, yo}, true},
-        {"human, twice", {}, {kStuck, kTakesNine}, 'p', {wait, wait}, {cpu, lleva, yo, cpu, laid, yo}},
+        {"human", {kStuck}, {kTakesNine, kStuckToo}, {llena, wait}, {cpu, lleva, yo}, 'p'},
+        {"computer", {kTakesEight}, {kBlind}, {wait}, {cpu, paso, yo}, 'c'},
+        {"both", {kStuck}, {kStuckToo}, {llena, wait, ninguno}, {cpu, paso, reparte, yo}, 'p', true},
+        {"human, twice", {}, {kStuck, kTakesNine}, {wait, wait}, {cpu, lleva, yo, cpu, laid, yo}, 'p'},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.What);
