@@ -49,10 +49,12 @@ TEST(TurnoPc, TakesTheFirstCaptureOfItsWalkOrLaysItsLastCard) {
         const std::string says = takes ? "Me llevo estas cartas" : "He Jugado una carta";
         EXPECT_EQ(table.TakeCaptions(), (std::vector<std::string>{"Juega Cpu", says, "Juega Humano"}));
         EXPECT_EQ(table.Desktop.Calls.front(), "pause 1500");
+        EXPECT_FALSE(window.SlotCpu(c.Played).Ocupado());
         EXPECT_EQ(Naipes->Mazo_Duenio(played), takes ? duenios::kCpu : duenios::kLaMesa);
         for (const int carta : c.Taken) EXPECT_EQ(Naipes->Mazo_Duenio(carta), duenios::kCpu) << carta;
         EXPECT_EQ(Reparto->UltimoqLevanta() == duenios::kCpu, takes);
         EXPECT_EQ(Reparto->ZarpelP1(), takes && left.empty() ? 1 : 0);
+        EXPECT_EQ(Reparto->ZarpelP2(), 0);
         if (!takes) left.push_back(played);
         EXPECT_EQ(table.OnTable(), left);
     }
