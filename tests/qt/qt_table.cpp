@@ -5,8 +5,8 @@
 
 namespace zarpel {
 
-void WritePicture(const QString& path, const QColor& color, const QSize& size) {
-    QImage picture(size, QImage::Format_RGB32);
+void WritePicture(const QString& path, const QColor& color) {
+    QImage picture(20, 30, QImage::Format_RGB32);
     picture.fill(color);
     ASSERT_TRUE(picture.save(path));
 }
@@ -29,11 +29,8 @@ QtTable::QtTable() {
 
 // As at the end of the program.
 QtTable::~QtTable() {
-    QTimer::singleShot(0, [this] {
-        if (!Desktop.WindowOf(Game)) return QApplication::quit();
-        Desktop.Pass(Game, [this] { Desktop.Unload(Game); });
-    });
-    QApplication::exec();
+    Desktop.Pass(Game, [this] { Desktop.Unload(Game); });
+    while (Desktop.WindowOf(Game)) QCoreApplication::processEvents();
 }
 
 QPoint QtTable::Middle(Image& image) {

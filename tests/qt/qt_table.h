@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
-#include <vector>
 
 #include "platform/qt/qt_desktop.h"
 #include "tests/support/table.h"
@@ -19,13 +18,9 @@ namespace zarpel {
 class QuickDesktop : public QtDesktop {
   public:
     using QtDesktop::QtDesktop;
-    void Pause(int milliseconds) override {
-        Pauses.push_back(milliseconds);
-        OnPause();
-    }
+    void Pause(int /*milliseconds*/) override { OnPause(); }
     double Rnd() override { return draws_++ == 0 ? 0 : QtDesktop::Rnd(); }
 
-    std::vector<int> Pauses;
     std::function<void()> OnPause = [] {};
 
   private:
@@ -53,9 +48,7 @@ class QtTable : public testing::Test {
     QPoint Middle(Image& image);
     QPoint BareTable() { return ViewOf<AreaView>(Game.Frame1).mapTo(&Window(), QPoint(5, 5)); }
 
-    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mouseClick(Window().windowHandle(), button, {}, at);
-    }
+    void Click(const QPoint& at) { QTest::mouseClick(Window().windowHandle(), Qt::LeftButton, {}, at); }
     void Key(Qt::Key key, quint32 scanCode = 0, Qt::KeyboardModifiers modifiers = {}, bool repeats = false);
 
     // What the player does in the next modal window; called while that is open.
@@ -67,7 +60,7 @@ class QtTable : public testing::Test {
 };
 
 // A picture of one colour, and the colour that the table's test pictures have.
-void WritePicture(const QString& path, const QColor& color, const QSize& size = {20, 30});
+void WritePicture(const QString& path, const QColor& color);
 QColor ColorOfCard(int carta);
 
 }  // namespace zarpel
