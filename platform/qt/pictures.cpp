@@ -54,7 +54,8 @@ QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
     // in.
     const QImage stretched = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
                                  .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (corner <= 0) return QPixmap::fromImage(stretched);
+    // A picture with see-through places has its own outline.
+    if (corner <= 0 || picture.hasAlphaChannel()) return QPixmap::fromImage(stretched);
     QImage rounded(pixels, QImage::Format_ARGB32_Premultiplied);
     rounded.fill(Qt::transparent);
     QPainter painter(&rounded);

@@ -21,7 +21,7 @@ void drawAll(const QString& dataFolder, const QString& outFolder);
 // An SVG document drawn over the whole of a transparent picture.
 QImage draw(const QByteArray& svg, QSize pixels);
 
-// The same picture with at most 256 colours: loads in a seventh of the time, and nobody sees the difference.
+// The same picture with at most 256 colours: a quarter of the bytes, and nobody sees the difference.
 QImage withPalette(const QImage& picture);
 
 // The card list file: 40 records of 16 bytes, a 2-byte little-endian length, the name, zeros.
