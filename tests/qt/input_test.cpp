@@ -53,7 +53,7 @@ TEST(KeyCodes, NameTheKeyNotTheCharacter) {
     EXPECT_EQ(codeOf(Qt::Key_At, 11, Qt::ShiftModifier), '2');        // US
     EXPECT_EQ(codeOf(Qt::Key_QuoteDbl, 11, Qt::ShiftModifier), '2');  // Spanish
     EXPECT_EQ(codeOf(Qt::Key_2, 0, {}), '2');                         // an on-screen keyboard
-    EXPECT_EQ(codeOf(Qt::Key_1, 87, Qt::KeypadModifier), kKeyNone);
+    EXPECT_EQ(codeOf(Qt::Key_1, 0, Qt::KeypadModifier), kKeyNone);
     EXPECT_EQ(ShiftMaskOf(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier), 7);
 }
 
