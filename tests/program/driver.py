@@ -193,8 +193,9 @@ def desktop(size):
     """A display of this size ("800x600"), with window manager and session bus, for all programs started meanwhile."""
     with contextlib.ExitStack() as stack:
         quiet = {"stderr": subprocess.DEVNULL}
-        # -r: no key repeats, however late its release comes
-        server = ["Xvfb", "-displayfd", "1", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-r"]
+        # -r: no key repeats, however late its release comes; -noreset: the end of the only program on the display does
+        # not throw out the next, which may be starting
+        server = ["Xvfb", "-displayfd", "1", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-r", "-noreset"]
         display = stack.enter_context(running(server, stdout=subprocess.PIPE, **quiet))
         os.environ["DISPLAY"] = ":" + display.stdout.readline().decode().strip()
         os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
