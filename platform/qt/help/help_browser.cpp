@@ -75,7 +75,7 @@ QImage HelpBrowser::Picture(const QUrl& address) const {
     // Scaling a picture that has a palette would leave it the palette, and a coarse grain.
     const QImage image =
         QImage::fromData(file_->Object(address)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull()) return image;
+    if (image.isNull()) return {};
     const qreal ratio = devicePixelRatioF();
     const int wanted = qRound(image.width() / kPictureDetail * enlargement_ * zoom_ / 100 * ratio);
     QImage scaled = image.scaledToWidth(std::min(wanted, kLargestPicture), Qt::SmoothTransformation);
