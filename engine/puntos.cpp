@@ -1,4 +1,7 @@
 // End of a deal, its count, and the end of the match.
+#include <algorithm>
+#include <cstdint>
+
 #include "engine/mesa.h"
 #include "engine/zarpelfunc.h"
 
@@ -18,7 +21,10 @@ int Puntos(const Matriz& matriz, ColumnaCuenta quien, ColumnaCuenta otro) {
     return puntos;
 }
 
-std::int16_t Mas(std::int16_t puntaje, int puntos) { return static_cast<std::int16_t>(puntaje + puntos); }
+// The points of a saved match may be as many as a record holds; they never wrap around.
+std::int16_t Mas(std::int16_t puntaje, int puntos) {
+    return static_cast<std::int16_t>(std::min<int>(puntaje + puntos, INT16_MAX));
+}
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// Keys and drops on the main window.
+// Keys on the main window.
 #include <gtest/gtest.h>
 
 #include "tests/support/table.h"
@@ -22,22 +22,6 @@ TEST(Keyboard, EveryKeyDoesWhatItSaysAndNoOther) {
             EXPECT_EQ(table.Desktop.Boxes.size(), key == 'L' ? 1U : 0U);  // the sum is not 15
         }
     }
-}
-
-// A drop that waited while the computer moved can find its card gone, or the table full.
-TEST(Mouse, ADropLaysACardOnTheFirstFreePlaceIfBothAreThere) {
-    Table table;
-    table.Lay({3, 13, 0, 23}, {0, 17, 27}, {10, 20});
-    table.Window.Frame1.DragDrop(table.Window.cartap2img[0]);
-    EXPECT_EQ(table.Desktop.Calls.size(), 0U);  // the turn has not passed
-    table.Window.Frame1.DragDrop(table.Window.cartap2img[2]);
-    EXPECT_EQ(table.Window.SlotMesa(2).Carta(), 27);
-    EXPECT_EQ(table.InHand(clase::kHumano), std::vector{17});
-
-    table.Lay({9, 19, 29, 39, 8, 18, 28, 38}, {6, 2}, {10});
-    table.Window.Frame1.DragDrop(table.Window.cartap2img[1]);
-    EXPECT_EQ(table.InHand(clase::kHumano), (std::vector{6, 2}));
-    EXPECT_EQ(table.Desktop.Calls.size(), 0U);
 }
 
 }  // namespace

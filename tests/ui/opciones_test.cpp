@@ -103,12 +103,5 @@ TEST(Opciones, DefaultReachesTheTableAtOnceAndLastsUntilTheNextMatch) {
     EXPECT_EQ(Of(table.Window), Values{});
 }
 
-TEST(Dorsos, AMissingPictureIsReplacedByTheGamesOwn) {
-    Table table;
-    table.Window.fondop1img[0].Tag = PathOf("mio.jpg");
-    table.Window.CargaDorsos();
-    for (const Image& dorso : table.Window.fondop1img) EXPECT_EQ(dorso.Picture.get(), PathOf("dibujo.jpg"));
-}
-
 }  // namespace
 }  // namespace zarpel
