@@ -25,10 +25,11 @@ std::string Playing::GuardaJuego(const std::string& filename) {
 
 void Playing::CargarJuego(const std::string& filename) {
     Load();
-    if (LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas()) {
+    const bool leida = LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas();
+    TapaCartasCpu();
+    if (leida) {
         namelbl.Caption = Naipes->Nombrejugador();
         Label2.Caption = Naipes->Nombrejugador();
-        TapaCartasCpu();
         MuestraVentana();
     } else {
         desktop_.Show(

@@ -37,6 +37,13 @@ std::string SavedPreferences(Table& table) {
     return table.Desktop.Files[kLastprop];
 }
 
+// The computer's cards are never seen in its hand.
+void ExpectBacksOverCards(const Table& table) {
+    for (std::size_t i = 0; i < table.Window.fondop1img.size(); ++i) {
+        EXPECT_TRUE(table.Window.fondop1img.at(i).Visible || !table.Window.cartap1img.at(i).Visible);
+    }
+}
+
 // What opening a file leaves behind: its values, saved again, and the texts of the boxes.
 struct Opened {
     Lines Values;
@@ -48,11 +55,12 @@ Opened OpenMatch(const std::string& file) {
     Table table;
     std::string values;
     table.Desktop.Files[kPath] = file;
-    table.Desktop.Draws = {0.0};  // the human moves first
+    table.Desktop.Draws = {0.9};  // the computer moves first, and plays a card
     table.Desktop.Answers = {Answer::No};
     table.Desktop.OnBox = [&](const Message&) { values = values.empty() ? Saved(table) : values; };
     table.Window.CargarJuego(kPath);
     EXPECT_TRUE(CanAct(table.Window)) << file.substr(0, 400);
+    ExpectBacksOverCards(table);
     return {LinesOf(values.empty() ? Saved(table) : values), table.Desktop.TakeBoxTexts()};
 }
 
@@ -111,7 +119,9 @@ TEST(Archivos, OfPreferencesAreWrittenByteForByte) {
     EXPECT_TRUE(SavedPreferences(table).starts_with("\xEF\xBB\xBF\"Łukasz\"\r\n"));
     table.Window.Load();
     EXPECT_EQ(table.Window.namelbl.Caption.get(), "Łukasz");
-    EXPECT_EQ(table.Window.fondop1img[0].Tag.get(), PathOf("dibujo.jpg"));  // the other cannot be loaded
+    // The back that cannot be loaded is the game's own now, in the file and on the table.
+    EXPECT_EQ(table.Window.fondop1img[0].Tag.get(), PathOf("dibujo.jpg"));
+    EXPECT_EQ(table.Window.fondop1img[2].Picture.get(), PathOf("dibujo.jpg"));
 }
 
 TEST(Partida, CutAnywhereIsAppliedUpToTheCut) {
@@ -158,9 +168,8 @@ TEST(Partida, ComesBackAndGoesOnAsItWas) {
         table->Desktop.Chosen = {kPath};
         table->Window.abrirmnu.Click();
         ASSERT_EQ(Saved(*table), file);
-        for (std::size_t i = 0; i < table->Window.fondop1img.size(); ++i) {
-            EXPECT_TRUE(table->Window.fondop1img.at(i).Visible || !table->Window.cartap1img.at(i).Visible);
-        }
+        EXPECT_EQ(table->Window.Label2.Caption.get(), Naipes->Nombrejugador());
+        ExpectBacksOverCards(*table);
         ASSERT_EQ(PlayOn(*table, moment), record);
     }
 }
