@@ -11,8 +11,10 @@ void Playing::Load() {
     Form_Load();
 }
 
+void Playing::UbicaArchivoNaipes() { ArchivoNaipes = desktop_.Folder() + "\\naipe.dat"; }
+
 void Playing::Form_Load() {
-    ArchivoNaipes = desktop_.Folder() + "\\naipe.dat";
+    UbicaArchivoNaipes();
     Naipes.emplace(desktop_);
     Reparto.emplace();
     ResetGame();

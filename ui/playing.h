@@ -74,6 +74,7 @@ class Playing : public Form, public Mesa {
     void CargarJuego(const std::string& filename);
 
   private:
+    void UbicaArchivoNaipes();
     void Form_Load();
     void Design();
     void DesignSlots();
