@@ -45,6 +45,8 @@ int main(int argc, char** argv) {
     }
     file.replace(kFileTimeAt, kTimeLength, QByteArray(kTimeLength, '\0'));
     ClearSystemTime(file);
-    out.write(zarpel::Sealed(file));
-    return out.commit() ? 0 : 1;
+    const QByteArray sealed = zarpel::Sealed(file);
+    if (out.write(sealed) == sealed.size() && out.flush() && out.commit()) return 0;
+    std::fprintf(stderr, "seal_help: cannot write %s\n", argv[2]);
+    return 1;
 }
