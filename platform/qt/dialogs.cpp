@@ -5,8 +5,10 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <algorithm>
 
 #include "platform/qt/colors.h"
@@ -43,8 +45,17 @@ QStringList FiltersOf(const std::string& filter) {
     return filters;
 }
 
+// Where "/" divides a path, the toolkit takes "\\" for a letter, but the game opens it as "/": the chooser
+// would ask about another file than the one replaced.
+void RefuseBackslash(const QFileDialog& chooser) {
+    static const QRegularExpressionValidator noBackslash(QRegularExpression(R"([^\\]*)"));
+    auto* const name = chooser.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (name && QDir::separator() == '/') name->setValidator(&noBackslash);
+}
+
 bool AskFile(QFileDialog& chooser, CommonDialog& dialog) {
     chooser.setOption(QFileDialog::DontUseNativeDialog);  // native ones speak the system's language
+    RefuseBackslash(chooser);
     chooser.setNameFilters(FiltersOf(dialog.Filter));
     chooser.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
     const QFileInfo last(SystemPath(dialog.FileName));

@@ -45,6 +45,17 @@ TEST_F(BoxesTest, ABoxSaysWhatItWasGivenAndTakesEveryAnswer) {
     }
 }
 
+TEST_F(BoxesTest, AMatchIsSavedUnderTheNameThatTheChooserShows) {
+    CommonDialog dialog{
+        .DefaultExt = "zrp", .Filter = "(*.zrp)|*.zrp", .FileName = Folder.path().toStdString() + "\\a"};
+    InBox([](QWidget& chooser) {
+        QTest::keyClicks(chooser.focusWidget(), "dos\\tres");
+        Leave(chooser, Qt::Key_Return);
+    });
+    EXPECT_TRUE(Desktop.ShowSave(dialog));
+    EXPECT_EQ(dialog.FileName, Folder.filePath("dostres.zrp").toStdString());
+}
+
 TEST_F(BoxesTest, TheResultsWindowEndsByEveryWayOut) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, kTitleBar}) {
         Resultadosfrm results(Desktop);
