@@ -1,18 +1,13 @@
 #include "platform/qt/dialogs.h"
 
 #include <QColorDialog>
-#include <QDir>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <algorithm>
 
 #include "platform/qt/colors.h"
-#include "platform/qt/files.h"
 
 namespace zarpel {
 namespace {
@@ -31,39 +26,6 @@ QMessageBox::Icon IconOf(Icon icon) {
             break;
     }
     return QMessageBox::NoIcon;
-}
-
-// From pairs of description and patterns, "Text(*.a)|*.a;*.b|...", to the toolkit's "Text (*.a *.b)".
-QStringList FiltersOf(const std::string& filter) {
-    const QStringList parts = QString::fromStdString(filter).split('|');
-    QStringList filters;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString text = parts[i].section('(', 0, 0).trimmed();
-        const QString patterns = QString(parts[i + 1]).replace(';', ' ').replace("*.*", "*");
-        filters.push_back(QStringLiteral("%1 (%2)").arg(text, patterns).trimmed());
-    }
-    return filters;
-}
-
-// Where "/" divides a path, the toolkit takes "\\" for a letter, but the game opens it as "/": the chooser
-// would ask about another file than the one replaced.
-void RefuseBackslash(const QFileDialog& chooser) {
-    static const QRegularExpressionValidator noBackslash(QRegularExpression(R"([^\\]*)"));
-    auto* const name = chooser.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (name && QDir::separator() == '/') name->setValidator(&noBackslash);
-}
-
-bool AskFile(QFileDialog& chooser, CommonDialog& dialog) {
-    chooser.setOption(QFileDialog::DontUseNativeDialog);  // native ones speak the system's language
-    RefuseBackslash(chooser);
-    chooser.setNameFilters(FiltersOf(dialog.Filter));
-    chooser.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
-    const QFileInfo last(SystemPath(dialog.FileName));
-    chooser.setDirectory(dialog.FileName.empty() ? QDir::homePath() : last.absolutePath());
-    if (!dialog.FileName.empty()) chooser.selectFile(last.fileName());
-    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return false;
-    dialog.FileName = QDir::toNativeSeparators(chooser.selectedFiles().constFirst()).toStdString();
-    return true;
 }
 
 // A box breaks its lines after so many pixels, whatever the size of the letters; a short text stays on one
@@ -107,18 +69,6 @@ std::string AskText(QWidget* owner, const std::string& prompt, const std::string
     box.setOkButtonText(QStringLiteral("Aceptar"));
     box.setCancelButtonText(QStringLiteral("Cancelar"));
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
-}
-
-bool AskFileToOpen(QWidget* owner, CommonDialog& dialog) {
-    QFileDialog chooser(owner, QStringLiteral("Abrir"));
-    chooser.setFileMode(QFileDialog::ExistingFile);
-    return AskFile(chooser, dialog);
-}
-
-bool AskFileToSave(QWidget* owner, CommonDialog& dialog) {
-    QFileDialog chooser(owner, QStringLiteral("Guardar"));
-    chooser.setAcceptMode(QFileDialog::AcceptSave);
-    return AskFile(chooser, dialog);
 }
 
 bool AskColor(QWidget* owner, CommonDialog& dialog) {

@@ -1,4 +1,4 @@
-// Message boxes, the input box and the choosers, in Spanish on every system.
+// Message boxes, the input box and the colour chooser, in Spanish on every system.
 #pragma once
 
 #include <QWidget>
@@ -13,8 +13,6 @@ namespace zarpel {
 Answer ShowMessage(QWidget* owner, const Message& message, const std::string& applicationTitle);
 std::string AskText(QWidget* owner, const std::string& prompt, const std::string& title,
                     const std::string& proposed);
-bool AskFileToOpen(QWidget* owner, CommonDialog& dialog);
-bool AskFileToSave(QWidget* owner, CommonDialog& dialog);
 bool AskColor(QWidget* owner, CommonDialog& dialog);
 
 }  // namespace zarpel

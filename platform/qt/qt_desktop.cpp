@@ -15,6 +15,7 @@
 
 #include "platform/qt/accessibility.h"
 #include "platform/qt/dialogs.h"
+#include "platform/qt/file_chooser.h"
 #include "platform/qt/files.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/help/help_window.h"

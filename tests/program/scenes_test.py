@@ -70,20 +70,21 @@ def match(program, openings=1):
 def opening_ms(deal, saved):
     """Opens the match; the time it took until a raised card was painted at rest, or nothing."""
     running = deal.running
-    place = min(running.table().cards("mano"))
-    keys(str(place))
-    raised = running.table("the raised card", lambda table: table.cards("mano")[place].chosen).cards("mano")[place]
-    top = raised.middle[0], raised.corner[1]
+    place, card = min(running.table().cards("mano").items())
+    bottom = card.middle[0], 2 * card.middle[1] - card.corner[1]
     screen = Screen()
-    shown = screen.pixel(*top)
+    shown = screen.pixel(*bottom)
+    keys(str(place))
+    screen.wait(*bottom, shown)
+    shown = screen.pixel(*bottom)
     running.choose("Archivo", "Abrir")
     running.answer("Nuevo Jugador", NEW_MATCH, "Sí")
     running.open("Abrir")
     time.sleep(0.3)  # the dialog is painted, too
-    assert screen.pixel(*top) == shown, "the file dialog hides the card"
+    assert screen.pixel(*bottom) == shown, "the file dialog hides the card"
     start = time.perf_counter()
     keys("Return")  # the name last chosen stands in the dialog
-    screen.wait(*top, shown)
+    screen.wait(*bottom, shown)
     taken = (time.perf_counter() - start) * 1000
     is_saved = lambda table: table.humans_turn() and (table.lies(), table.points()) == (saved.lies(), saved.points())
     at_once = is_saved(running.table())

@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QColorDialog>
 #include <QMessageBox>
+#include <QTreeView>
 
 #include "tests/qt/qt_table.h"
 #include "ui/preferenciasfrm.h"
@@ -45,10 +46,18 @@ TEST_F(BoxesTest, ABoxSaysWhatItWasGivenAndTakesEveryAnswer) {
     }
 }
 
-TEST_F(BoxesTest, AMatchIsSavedUnderTheNameThatTheChooserShows) {
+TEST_F(BoxesTest, AMatchIsSavedUnderTheNameThatTheChooserShowsInASpanishList) {
+    ASSERT_TRUE(Desktop.WriteFile(Folder.filePath("vieja.zrp").toStdString(), ""));
     CommonDialog dialog{
         .DefaultExt = "zrp", .Filter = "(*.zrp)|*.zrp", .FileName = Folder.path().toStdString() + "\\a"};
     InBox([](QWidget& chooser) {
+        const auto& list = *chooser.findChild<QTreeView*>();
+        const QString today = QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
+        const auto column = [&](int i) {
+            return list.model()->index(0, i, list.rootIndex()).data().toString();
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return column(3).startsWith(today); }));
+        EXPECT_EQ(column(2), "Archivo");
         QTest::keyClicks(chooser.focusWidget(), "dos\\tres");
         Leave(chooser, Qt::Key_Return);
     });
