@@ -142,7 +142,8 @@ void QtDesktop::Unload(Form& form) {
 }
 
 Place QtDesktop::Screen() const {
-    const QSize size = QApplication::primaryScreen()->size();
+    const QScreen* const screen = opened_.empty() ? QApplication::primaryScreen() : TopWindow()->screen();
+    const QSize size = screen->size();
     return {0, 0, scale_.Twips(size.width()), scale_.Twips(size.height())};
 }
 
