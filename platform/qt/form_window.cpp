@@ -86,7 +86,6 @@ ClientArea::ClientArea(Form& form, const ViewContext& context, QWidget* parent)
     : QWidget(parent), form_(form), context_(context) {
     setAttribute(Qt::WA_OpaquePaintEvent);  // nothing needs to be painted below it
     setMouseTracking(true);
-    setFocusPolicy(Qt::ClickFocus);
 }
 
 void ClientArea::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ColorOf(form_.BackColor)); }
@@ -182,6 +181,9 @@ void FormWindow::PlaceDialog() {
 // that repeats because it is held down counts once, so that it cannot fill the computer's pause with moves.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose) FitNow();
+    if (event->type() == QEvent::WindowBlocked) {
+        for (View* const view : views_) view->LetGo();
+    }
     if (event->type() == QEvent::KeyPress && !QApplication::activePopupWidget()) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         const int code = KeyCodeOf(key);

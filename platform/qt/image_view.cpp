@@ -9,7 +9,7 @@ namespace zarpel {
 
 void ImageView::Sync() {
     ControlView::Sync();
-    if (control_.Spoken) {
+    if (control_.Spoken && Shown()) {  // a new name is told even of a widget that is hidden
         const Spoken spoken = control_.Spoken();
         setAccessibleName(QString::fromStdString(spoken.Name));
         setAccessibleDescription(QString::fromStdString(spoken.Description));
@@ -31,7 +31,8 @@ void ImageView::paintEvent(QPaintEvent*) {
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    if (event->button() != Qt::LeftButton) return;
+    pressed_ = true;
     pressedAt_ = event->position().toPoint();
 }
 
@@ -59,11 +60,16 @@ void ImageView::mouseReleaseEvent(QMouseEvent* event) {
     if (still && rect().contains(at)) Press();
 }
 
-// Only the bare table area takes a card; anywhere else it goes back to its place.
-void ImageView::Drop(const QPoint& global) {
+void ImageView::LetGo() {
+    pressed_ = false;
     delete dragged_;
     dragged_ = nullptr;
     update();
+}
+
+// Only the bare table area takes a card; anywhere else it goes back to its place.
+void ImageView::Drop(const QPoint& global) {
+    LetGo();
     auto* const area = dynamic_cast<AreaView*>(window()->childAt(window()->mapFromGlobal(global)));
     if (area) area->Dropped(control_);
 }

@@ -31,9 +31,10 @@ int KeyCodeOf(const QKeyEvent& event) {
     if (key >= Qt::Key_A && key <= Qt::Key_Z) return key;
     if (key == Qt::Key_Tab || key == Qt::Key_Backtab) return kKeyTab;
     if (key == Qt::Key_F1) return kKeyF1;
-    // A synthetic press (an input method, an on-screen keyboard) can come without a scan code.
-    if (event.nativeScanCode() == 0 && key >= Qt::Key_0 && key <= Qt::Key_9) return key;
-    return DigitOf(event);
+    if (const int digit = DigitOf(event)) return digit;
+    // A press made by a program (an input method, an on-screen keyboard, a remote desktop) can come without
+    // its place, or with a strange one.
+    return key >= Qt::Key_0 && key <= Qt::Key_9 ? key : kKeyNone;
 }
 
 int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {

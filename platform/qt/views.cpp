@@ -111,16 +111,16 @@ ButtonView::ButtonView(Button& button, const ViewContext& context, QWidget* pare
 }
 
 // A button that is disabled while it has the focus gets it back later; meanwhile no neighbour has it, whom
-// the keys would press.
+// the keys would press. It may be the window's focus that a box has taken for now.
 void ButtonView::Sync() {
-    if (!control_.Enabled && hasFocus()) {
+    if (!control_.Enabled && window()->focusWidget() == this) {
         hadFocus_ = true;
         parentWidget()->setFocus();
     }
     ControlView::Sync();
     if (control_.Enabled && hadFocus_) {
         hadFocus_ = false;
-        if (parentWidget()->hasFocus()) setFocus();
+        if (window()->focusWidget() == parentWidget()) setFocus();
     }
     const QString caption = QString::fromStdString(control_.Caption);
     if (caption != text()) setText(caption);
@@ -167,7 +167,9 @@ void FrameView::paintEvent(QPaintEvent*) {
 }
 
 void FrameView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) Raise(control_.Click);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+        Raise(control_.Click);
+    }
 }
 
 LineView::LineView(Line& line, const ViewContext& context, QWidget* parent)

@@ -41,6 +41,8 @@ class View {
     // A view that can be pressed takes Press for a click of the pointer.
     virtual bool Pressable() const { return false; }
     virtual void Press() {}
+    // The release of the pointer will not come: a card that was dragged goes back to its place.
+    virtual void LetGo() {}
 };
 
 // A view is one of these with its widget class: it takes place, visibility, enabled state and tooltip from
@@ -90,9 +92,11 @@ class ImageView : public ControlView<QWidget, Image> {
     void Covers(ImageView& covered) { covered_.push_back(&covered); }
     bool Pressable() const override { return control_.Click && control_.Enabled; }
     void Press() override { Raise(control_.Click); }
+    void LetGo() override;
 
   protected:
     bool Shown() const override;
+    void hideEvent(QHideEvent*) override { LetGo(); }
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;

@@ -36,6 +36,8 @@ TEST_F(AccessibilityTest, TheTreeHoldsTheShownCardsAndNoHiddenOne) {
                     {"mano 2", "10 de espada"},
                     {"cpu 1", "carta tapada"},
                     {"cpu 3", "carta tapada"}}));
+    // A name is told when it is set, so that of a covered card is not.
+    EXPECT_NE(ViewOf<ImageView>(Game.cartap1img[2]).accessibleName(), "4 de basto");
     EXPECT_TRUE(accessible(Game.fondop1img[0])->actionInterface()->actionNames().isEmpty());
 }
 

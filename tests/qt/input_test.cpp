@@ -15,6 +15,8 @@ class InputTest : public QtTable {
 };
 
 TEST_F(InputTest, AClickSelectsACardAndADropOnTheBareTableLaysOne) {
+    auto& button = ViewOf<ButtonView>(Game.LevantarBtn);
+    button.setFocus();
     const QPoint own = Middle(Game.cartap2img[0]), table = Middle(Game.mesaimg[1]);
     const QPoint back = Middle(Game.fondop1img[0]), outside(own.x(), Window().height() + 40);
     const struct {
@@ -44,6 +46,30 @@ TEST_F(InputTest, AClickSelectsACardAndADropOnTheBareTableLaysOne) {
     EXPECT_FALSE(Game.SlotHumano(0).Ocupado());
     EXPECT_EQ(Game.SlotMesa(2).Carta(), Card(8, 'o'));
     EXPECT_EQ(Game.SlotMesa(3).Carta(), Card(3, 'b'));  // the computer has moved
+    EXPECT_TRUE(button.hasFocus());  // so that the space bar takes what the pointer has chosen
+}
+
+TEST_F(InputTest, ADragThatABoxInterruptsLeavesTheCardInTheHand) {
+    const auto drag = [this] {
+        QTest::mousePress(Window().windowHandle(), Qt::LeftButton, {}, Middle(Game.cartap2img[0]));
+        QTest::mouseMove(Window().windowHandle(), BareTable());
+    };
+    const auto cardsUnderThePointer = [this] {
+        return Window().findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly).size();
+    };
+    drag();
+    EXPECT_EQ(cardsUnderThePointer(), 1);
+    InBox([](QWidget& box) { box.close(); });
+    Key(Qt::Key_L, 46);  // there are no 15
+    EXPECT_EQ(cardsUnderThePointer(), 0);
+    QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
+    EXPECT_TRUE(Game.SlotHumano(0).Ocupado());
+
+    drag();
+    QTest::mouseClick(Window().windowHandle(), Qt::RightButton, {}, BareTable());
+    QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
+    EXPECT_FALSE(Game.SlotHumano(0).Ocupado());
+    EXPECT_EQ(cardsUnderThePointer(), 0);
 }
 
 TEST(KeyCodes, NameTheKeyNotTheCharacter) {
@@ -53,6 +79,7 @@ TEST(KeyCodes, NameTheKeyNotTheCharacter) {
     EXPECT_EQ(codeOf(Qt::Key_At, 11, Qt::ShiftModifier), '2');        // US
     EXPECT_EQ(codeOf(Qt::Key_QuoteDbl, 11, Qt::ShiftModifier), '2');  // Spanish
     EXPECT_EQ(codeOf(Qt::Key_2, 0, {}), '2');                         // an on-screen keyboard
+    EXPECT_EQ(codeOf(Qt::Key_2, 99, {}), '2');                        // a remote desktop
     EXPECT_EQ(codeOf(Qt::Key_1, 0, Qt::KeypadModifier), kKeyNone);
     EXPECT_EQ(ShiftMaskOf(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier), 7);
 }
@@ -68,11 +95,15 @@ TEST_F(InputTest, KeysReachTheGameWhateverHasTheFocus) {
     Key(Qt::Key_S, 39);
     menu->close();
     EXPECT_EQ(Game.Suma(), 8);
-    // A button that is disabled gets its focus back later.
-    Game.LevantarBtn.Enabled = false;
-    EXPECT_TRUE(button.parentWidget()->hasFocus());
-    Game.LevantarBtn.Enabled = true;
-    EXPECT_TRUE(button.hasFocus());
+    // A button that is disabled, be it below a box, gets its focus back later.
+    InBox([&](QWidget& box) {
+        Game.LevantarBtn.Enabled = false;
+        EXPECT_EQ(Window().focusWidget(), button.parentWidget());
+        Game.LevantarBtn.Enabled = true;
+        EXPECT_EQ(Window().focusWidget(), &button);
+        box.close();
+    });
+    Key(Qt::Key_L, 46);
 }
 
 // The accessibility bus and the session do not wait for the game, so the window makes them.
