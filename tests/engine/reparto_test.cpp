@@ -49,6 +49,7 @@ TEST(Paso, NoTableIsEverStuck) {
         {"human", {kStuck}, {kTakesNine, kStuckToo}, {llena, wait}, {cpu, lleva, yo}, 'p'},
         {"computer", {kTakesEight}, {kBlind}, {wait}, {cpu, paso, yo}, 'c'},
         {"both", {kStuck}, {kStuckToo}, {llena, wait, ninguno}, {cpu, paso, reparte, yo}, 'p', true},
+        {"computer without cards", {kTakesEight}, {}, {}, {cpu, yo}, 'c'},
         {"human, twice", {}, {kStuck, kTakesNine}, {wait, wait}, {cpu, lleva, yo, cpu, laid, yo}, 'p'},
     };
     for (const auto& c : cases) {

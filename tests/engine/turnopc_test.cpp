@@ -53,6 +53,8 @@ TEST(TurnoPc, TakesTheFirstCaptureOfItsWalkOrLaysItsLastCard) {
         EXPECT_EQ(Naipes->Mazo_Duenio(played), takes ? duenios::kCpu : duenios::kLaMesa);
         for (const int carta : c.Taken) EXPECT_EQ(Naipes->Mazo_Duenio(carta), duenios::kCpu) << carta;
         EXPECT_EQ(Reparto->UltimoqLevanta() == duenios::kCpu, takes);
+        EXPECT_NE(window.LevantarBtn.Enabled.get(), takes);
+        EXPECT_NE(window.SumandoLbl.Visible.get(), takes);
         EXPECT_EQ(Reparto->ZarpelP1(), takes && left.empty() ? 1 : 0);
         EXPECT_EQ(Reparto->ZarpelP2(), 0);
         if (!takes) left.push_back(played);

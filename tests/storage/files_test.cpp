@@ -122,6 +122,9 @@ TEST(Archivos, OfPreferencesAreWrittenByteForByte) {
     // The back that cannot be loaded is the game's own now, in the file and on the table.
     EXPECT_EQ(table.Window.fondop1img[0].Tag.get(), PathOf("dibujo.jpg"));
     EXPECT_EQ(table.Window.fondop1img[2].Picture.get(), PathOf("dibujo.jpg"));
+    table.Desktop.Files.erase(PathOf("dibujo.jpg"));
+    table.Window.Load();
+    EXPECT_EQ(table.Window.fondop1img[2].Picture.get(), ":/dorso.jpg");
 }
 
 TEST(Partida, CutAnywhereIsAppliedUpToTheCut) {
@@ -168,7 +171,9 @@ TEST(Partida, ComesBackAndGoesOnAsItWas) {
         table->Desktop.Chosen = {kPath};
         table->Window.abrirmnu.Click();
         ASSERT_EQ(Saved(*table), file);
-        EXPECT_EQ(table->Window.Label2.Caption.get(), Naipes->Nombrejugador());
+        for (const Label* name : {&table->Window.namelbl, &table->Window.Label2}) {
+            EXPECT_EQ(name->Caption.get(), Naipes->Nombrejugador());
+        }
         ExpectBacksOverCards(*table);
         ASSERT_EQ(PlayOn(*table, moment), record);
     }
@@ -257,7 +262,7 @@ TEST(Preferencias, TakeEffectAsTheyAreRead) {
         {"a , \"b,b\"x ,\t3 ,4, c c \r\n", {"\"a\"", "\"b,b\"", "3", "4", "\"c c\""}},
         {"a\"a\r\n  \" b \"\r\n\"3\"\r\n4\r\n\r\nsixth\r\n", {"\"a'a\"", "\" b \"", "3", "4", "\"\""}},
         {"\"a\r\nb\",b,3,4,c", {"\"a b\"", "\"b\"", "3", "4", "\"c\""}},
-        {{"a\0a,\x81\x9D,3,4,c", 12}, {{"\"a\0a\"", 5}, "\"\x81\x9D\"", "3", "4", "\"c\""}},
+        {{"a\0a,\x80\x81\x9D,3,4,c", 13}, {{"\"a\0a\"", 5}, "\"\x80\x81\x9D\"", "3", "4", "\"c\""}},
         {"a\r\nb\r\n3\r\n4\r\n\"c\r\n", {"\"a\"", "\"b\"", "3", "4"}},
         {"\"" + std::string(5'000'000, 'x') + "\",b,3,4,c", {}},  // beyond what is read of a file
     };

@@ -91,12 +91,13 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
 
 TEST(Opciones, DefaultReachesTheTableAtOnceAndLastsUntilTheNextMatch) {
     Table table;
-    table.Desktop.Files[PathOf("pordefecto.dat")] = "\"Otro\"\r\n\"juego\"\r\n255\r\n-2147483633\r\n\"\"\r\n";
+    table.Desktop.Files[PathOf("pordefecto.dat")] =
+        "\"Otro\"\r\n\"juego\"\r\n255\r\n-2147483633\r\n\"x.jpg\"\r\n";
     Open(table, [&](Dialog& dialog) {
         dialog.Command1.Click();
-        EXPECT_EQ(Of(dialog), (Values{kRed, kFace, "juego"}));
+        EXPECT_EQ(Of(dialog), (Values{kRed, kFace, "juego", "x.jpg"}));
     });
-    EXPECT_EQ(Of(table.Window), (Values{kRed, kFace, "juego"}));
+    EXPECT_EQ(Of(table.Window), (Values{kRed, kFace, "juego", "x.jpg"}));
     EXPECT_EQ(table.Desktop.Boxes.size(), 0U);
     EXPECT_EQ(Naipes->Nombrejugador() + table.Window.namelbl.Caption.get(), "OtroHumano");
     table.Window.ResetGame();
