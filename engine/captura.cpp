@@ -47,7 +47,7 @@ void Mesa::Elige(const Slot& slot) {
         return;
     }
     slot.Marca.Value = 0;
-    // The computer tries cards without a word; it lowers the ones it leaves itself.
+    // The computer tries cards without a word; BajaCartasMesa lowers those that it leaves.
     if (Reparto->Turno() != 1) return;
     desktop_.Show({.Text = "La suma es mayor que 15", .Icon = Icon::Information});
     slot.Bajar();
@@ -62,12 +62,7 @@ void Mesa::Levanta(const std::string& duenio) {
         desktop_.Show({.Text = "Debes seleccionar una de tus cartas"});
         return;
     }
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        Entrega(SlotMesa(i), duenio);
-        if (i >= kLugaresMano) continue;
-        Entrega(SlotHumano(i), duenio);
-        Entrega(SlotCpu(i), duenio);
-    }
+    for (int codigo = 1; codigo <= kPosiciones; ++codigo) Entrega(SlotDePosicion(codigo), duenio);
     SumaZarpel(duenio);
     Reparto->aUltimoqLevanta(duenio);
     LevantarBtn.Enabled = false;

@@ -32,7 +32,7 @@ class classnaipe {
     // The cards stay empty until the first Setnaipe. `desktop` must outlive the record.
     explicit classnaipe(Desktop& desktop) : desktop_(&desktop) {}
 
-    // Getters and setters of a card; `i` must be 1 to 40.
+    // Getters and setters of a card; `i` must be 1 to 40 (std::out_of_range otherwise).
     std::int16_t Mazo_Numero(int i) const { return Carta(i).Numero; }
     const std::string& Mazo_Palo(int i) const { return Carta(i).Palo; }
     const std::string& Mazo_Duenio(int i) const { return Carta(i).Duenio; }

@@ -19,6 +19,7 @@ namespace zarpel {
 constexpr int kLugaresMesa = 8;
 constexpr int kLugaresMano = 3;
 constexpr int kPosiciones = kLugaresMesa + 2 * kLugaresMano;  // position codes are 1 to this
+constexpr int kCartasEnMesa = 4;                              // laid by the first distribution of a deal
 constexpr int kSumaDeLevante = 15;
 constexpr int kPausaMs = 1500;  // long enough to see what happens
 
@@ -61,6 +62,7 @@ class Mesa {
 
     // Starts a new match: points 0, a dealer drawn by chance, a fresh deck, the first turn decision.
     void ResetGame();
+    // Prepares the table and the deck of a match, reads the preferences, and makes the first turn decision.
     void Inicia();
     void DecideTurno();
     // One distribution: three cards to each player; the first of a deal also lays four on the table.
@@ -68,7 +70,7 @@ class Mesa {
     // Lays the hand card shown in `Source` on the first free table slot and passes the turn. On a full table,
     // or when the card is gone (a drop that waited while others moved), nothing happens, and the turn stays.
     void Juega(Image& Source);
-    // Sets the owner tag of card `subind`; an index that no card has is passed over.
+    // Sets the owner tag of card `subind`, 1 to 40; 0, which is no card, is passed over.
     void AsignoANaipe(int subind, const std::string& aquien);
 
     // --- Passing and annulling (paso.cpp) ---
@@ -77,8 +79,8 @@ class Mesa {
     bool PuedeLevantar(char manoDe);
     // True when the player with this kind letter has cards but can neither capture nor lay one.
     bool Bloqueado(char manoDe);
-    bool TieneCartas(char manoDe);
-    bool MesaLlena();
+    bool TieneCartas(char manoDe) const;
+    bool MesaLlena() const;
 
     // --- Selection and capture (captura.cpp) ---
 
@@ -89,6 +91,7 @@ class Mesa {
     // Gives the selected cards to `duenio` (an owner tag) when they make 15, and passes the turn. The human's
     // capture needs one card of the hand. Says why not, and changes nothing, otherwise.
     void Levanta(const std::string& duenio);
+    // Counts a zarpel for `duenio` (an owner tag), and says so, when the table is empty.
     void SumaZarpel(const std::string& duenio);
     // Lowers every table card that is not selected.
     void BajaCartasMesa();
@@ -102,6 +105,7 @@ class Mesa {
 
     // Counts a finished deal, shows the results, adds the points, and deals again or ends the match.
     void CuentaPuntos();
+    // Pauses, then gives the cards left on the table to `duenio` (an owner tag). That is never a zarpel.
     void AsignaRestoALUltimo(const std::string& duenio);
     // Announces the result of the match and offers a new one. Ends the program when it is declined.
     void DefineGanador(std::int16_t puntaje1, std::int16_t puntaje2);
@@ -119,6 +123,7 @@ class Mesa {
     // Puts every card to rest, clears every selection and the sum, removes the backs of cards that were
     // played.
     virtual void EmprolijaDesktop() = 0;
+    // Loads the card backs from the preferred file, or the game's own.
     virtual void CargaDorsos() = 0;
     // Reads a preference file; says so when it is missing or damaged.
     virtual void LoadProperty(const std::string& fichero) = 0;
@@ -136,10 +141,9 @@ class Mesa {
     void AnunciaReparto();
     void JuegaHumano();
     void JuegaCpu();
-    bool ManosVacias();
-    void DaCarta(int codigo, const std::string& aquien);
+    bool ManosVacias() const;
+    void DaCarta(int codigo);
     bool MuestraCarta(int codigo, int carta);
-    void OcultaSinRepartir(int primera, int ultima);
     void Pasa();
     void AnulaReparto();
     void PonSuma(int suma);

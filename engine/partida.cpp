@@ -6,11 +6,16 @@
 namespace zarpel {
 namespace {
 
-constexpr int kCartasPorMano = 6;  // of both players together, in one distribution
-constexpr int kCartasEnMesa = 4;   // laid by the first distribution of a deal
-constexpr int kPrimerCodigoMano = 5;
+// A distribution gives its cards in the order of the position codes.
+constexpr int kPrimerCodigoCpu = kCartasEnMesa + 1;
+constexpr int kUltimoCodigoHumano = 10;
 
 bool EnElMazo(int carta) { return Naipes->Mazo_Duenio(carta) == duenios::kNinguno; }
+
+const std::string& DuenioEn(const Slot& slot) {
+    if (slot.Clase == clase::kMesa) return duenios::kLaMesa;
+    return slot.Clase == clase::kCpu ? duenios::kCpu : duenios::kHumano;
+}
 
 bool MazoVacio() {
     for (int i = 1; i <= Naipes->CantCartas(); ++i) {
@@ -56,7 +61,6 @@ void Mesa::RepartoNuevo() {
         SlotCpu(i).Imagen.Visible = false;
         SlotHumano(i).Imagen.Visible = false;
     }
-    pasosSeguidos_ = 0;
 }
 
 void Mesa::SigueOtroReparto() {
@@ -120,31 +124,24 @@ void Mesa::JuegaCpu() {
     TurnoPc();
 }
 
-bool Mesa::ManosVacias() { return !TieneCartas(clase::kCpu) && !TieneCartas(clase::kHumano); }
+bool Mesa::ManosVacias() const { return !TieneCartas(clase::kCpu) && !TieneCartas(clase::kHumano); }
 
 void Mesa::SeReparte() {
     pasosSeguidos_ = 0;
     SetPantalla();
-    int k = 1;  // cards given to the players
-    int m = Naipes->Primermano() ? 1 : kCartasEnMesa + 1;
-    while (Naipes->Repartidas() <= Naipes->CantCartas() && k <= kCartasPorMano && !MazoVacio()) {
-        if (m <= kCartasEnMesa) {
-            DaCarta(m++, duenios::kLaMesa);
-        } else {
-            DaCarta(k + kPrimerCodigoMano - 1, k <= kLugaresMano ? duenios::kCpu : duenios::kHumano);
-            ++k;
-        }
+    int codigo = Naipes->Primermano() ? 1 : kPrimerCodigoCpu;
+    while (codigo <= kUltimoCodigoHumano && Naipes->Repartidas() <= Naipes->CantCartas() && !MazoVacio()) {
+        DaCarta(codigo++);
     }
     // Only a saved match changed by hand has a stock that ends early; it ends the deal, whatever the count
     // says.
-    OcultaSinRepartir(m, kCartasEnMesa);
-    OcultaSinRepartir(k + kPrimerCodigoMano - 1, kCartasPorMano + kPrimerCodigoMano - 1);
+    for (; codigo <= kUltimoCodigoHumano; ++codigo) SlotDePosicion(codigo).Imagen.Visible = false;
     if (MazoVacio()) Naipes->aRepartidas(Naipes->CantCartas());
 }
 
-void Mesa::DaCarta(int codigo, const std::string& aquien) {
+void Mesa::DaCarta(int codigo) {
     const int carta = SacaCarta(desktop_);
-    Naipes->aMazo_Duenio(carta, aquien);
+    Naipes->aMazo_Duenio(carta, DuenioEn(SlotDePosicion(codigo)));
     if (!MuestraCarta(codigo, carta)) {
         // A saved match names the pictures where they were on the day it was saved.
         Naipes->aMazo_Imagen(carta, desktop_.Folder() + "\\" + Naipes->LoadImage(carta));
@@ -158,10 +155,6 @@ void Mesa::DaCarta(int codigo, const std::string& aquien) {
 bool Mesa::MuestraCarta(int codigo, int carta) {
     const std::string& imagen = Naipes->Mazo_Imagen(carta);
     return !imagen.empty() && UpdateImagenDesktop(codigo, imagen, carta);
-}
-
-void Mesa::OcultaSinRepartir(int primera, int ultima) {
-    for (int codigo = primera; codigo <= ultima; ++codigo) SlotDePosicion(codigo).Imagen.Visible = false;
 }
 
 void Mesa::Juega(Image& Source) {

@@ -3,7 +3,6 @@
 #include <bitset>
 
 #include "engine/mesa.h"
-#include "engine/zarpelfunc.h"
 
 namespace zarpel {
 namespace {
@@ -12,14 +11,14 @@ constexpr int kPasosDeLosDos = 2;
 
 }  // namespace
 
-bool Mesa::MesaLlena() {
+bool Mesa::MesaLlena() const {
     for (const Image& imagen : mesaimg) {
         if (!imagen.Visible) return false;
     }
     return true;
 }
 
-bool Mesa::TieneCartas(char manoDe) {
+bool Mesa::TieneCartas(char manoDe) const {
     for (const Image& imagen : manoDe == clase::kCpu ? cartap1img : cartap2img) {
         if (imagen.Visible) return true;
     }

@@ -13,7 +13,6 @@ void Mesa::TurnoPc() {
     if (levanta) {
         cartellbl.Caption = "Me llevo estas cartas";
         fondop1img.at(Pos(mano)).Visible = false;
-        SlotCpu(mano).Imagen.Refresh();
         desktop_.Pause(kPausaMs);
         return Levanta(duenios::kCpu);
     }

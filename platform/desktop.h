@@ -3,9 +3,9 @@
 // desktop it has.
 //
 // Everything happens on one thread. Calls marked "blocks" return when the player has answered or the time is
-// over; meanwhile windows keep painting. Texts are UTF-8. A path is the application folder, "\" and a name,
-// whatever the system's separator is: it is the implementation that opens it, reading "\" as the system's
-// separator.
+// over; meanwhile windows keep painting. Texts are UTF-8. A path that the game makes is the application
+// folder, "\" and a name, whatever the system's separator is; one that the player chose is the system's own.
+// It is the implementation that opens them, reading "\" as the system's separator.
 #pragma once
 
 #include <cstddef>

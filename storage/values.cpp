@@ -1,5 +1,6 @@
 #include "storage/values.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>

@@ -81,8 +81,8 @@ class Playing : public Form, public Mesa {
     void DesignCommands();
     void ConnectEvents();
     Fields Preferencias();
+    bool LeeJuego(const std::string& filename);
     bool RedibujaCartas();
-    void TapaCartasCpu();
     // Selects or deselects the card in a place of the player's reach. An event that waited while the computer
     // moved can find the place empty, and then does nothing.
     void Toca(const Slot& slot);

@@ -14,23 +14,21 @@ bool Playing::UpdateImagenDesktop(int i, const std::string& Imagen, int subind) 
 }
 
 void Playing::SetPantalla() {
+    for (Image& imagen : fondop1img) imagen.Visible = true;  // first: what they cover must not be told
     for (Image& imagen : cartap1img) imagen.Visible = true;
     for (Image& imagen : cartap2img) imagen.Visible = true;
-    for (Image& imagen : fondop1img) imagen.Visible = true;
     if (!Naipes->Primermano()) return;
-    for (int i = 0; i < kLugaresMesa; ++i) SlotMesa(i).Imagen.Visible = i < 4;
+    for (int i = 0; i < kLugaresMesa; ++i) SlotMesa(i).Imagen.Visible = i < kCartasEnMesa;
 }
 
 void Playing::EmprolijaDesktop() {
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        SlotMesa(i).Marca.Value = 0;
-        SlotMesa(i).Bajar();
+    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
+        const Slot slot = SlotDePosicion(codigo);
+        slot.Marca.Value = 0;
+        slot.Bajar();
     }
-    for (int i = 0; i < kLugaresMano; ++i) {
-        SlotHumano(i).Marca.Value = 0;
-        SlotHumano(i).Bajar();
-        SlotCpu(i).Marca.Value = 0;
-        if (!SlotCpu(i).Ocupado()) fondop1img.at(static_cast<std::size_t>(i)).Visible = false;
+    for (std::size_t i = 0; i < fondop1img.size(); ++i) {
+        if (!cartap1img.at(i).Visible) fondop1img.at(i).Visible = false;
     }
     SumandoLbl.Caption = "";
     SumandoLbl.Tag = "0";

@@ -1,4 +1,6 @@
 // The files that the main window reads and writes.
+#include <array>
+
 #include "engine/zarpelfunc.h"
 #include "storage/layouts.h"
 #include "ui/playing.h"
@@ -25,9 +27,7 @@ std::string Playing::GuardaJuego(const std::string& filename) {
 
 void Playing::CargarJuego(const std::string& filename) {
     Load();
-    const bool leida = LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas();
-    TapaCartasCpu();
-    if (leida) {
+    if (LeeJuego(filename)) {
         namelbl.Caption = Naipes->Nombrejugador();
         Label2.Caption = Naipes->Nombrejugador();
         MuestraVentana();
@@ -40,12 +40,17 @@ void Playing::CargarJuego(const std::string& filename) {
     if (!TieneCartas(clase::kHumano) || Bloqueado(clase::kHumano)) DecideTurno();
 }
 
-// In the fresh match the computer may have played a card of its hand, whose back is gone. No back is hidden
-// here: the next tidying does that.
-void Playing::TapaCartasCpu() {
-    for (std::size_t i = 0; i < fondop1img.size(); ++i) {
-        if (cartap1img.at(i).Visible) fondop1img.at(i).Visible = true;
+// In the fresh match the computer may have played a card of its hand, whose back is gone. All backs lie there
+// while the file is read, so that no card is seen, or told, that the file shows there.
+bool Playing::LeeJuego(const std::string& filename) {
+    std::array<bool, kLugaresMano> dorsos{};
+    for (std::size_t i = 0; i < dorsos.size(); ++i) dorsos.at(i) = fondop1img.at(i).Visible;
+    for (Image& dorso : fondop1img) dorso.Visible = true;
+    const bool leido = LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas();
+    for (std::size_t i = 0; i < dorsos.size(); ++i) {
+        fondop1img.at(i).Visible = dorsos.at(i) || cartap1img.at(i).Visible;
     }
+    return leido;
 }
 
 // Loads the picture of the card that each place names, whether the place is shown or not. False at the first

@@ -1,5 +1,4 @@
 // What the player does on the table with mouse and keyboard.
-#include <array>
 #include <string_view>
 
 #include "engine/zarpelfunc.h"
