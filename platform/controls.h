@@ -55,7 +55,12 @@ class Control : public Observed {
     Property<std::string> Tag{*this};  // free for the game; never drawn
     Property<std::string> ToolTip{*this};
 
-    void Put(const Place& place);
+    void Put(const Place& place) {
+        Left = place.Left;
+        Top = place.Top;
+        Width = place.Width;
+        Height = place.Height;
+    }
 };
 
 // A control that holds others.

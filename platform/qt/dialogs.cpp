@@ -6,27 +6,16 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
+#include <array>
 
 #include "platform/qt/colors.h"
 
 namespace zarpel {
 namespace {
 
-QMessageBox::Icon IconOf(Icon icon) {
-    switch (icon) {
-        case Icon::Critical:
-            return QMessageBox::Critical;
-        case Icon::Question:
-            return QMessageBox::Question;
-        case Icon::Exclamation:
-            return QMessageBox::Warning;
-        case Icon::Information:
-            return QMessageBox::Information;
-        case Icon::None:
-            break;
-    }
-    return QMessageBox::NoIcon;
-}
+// In the order of Icon.
+constexpr std::array kIcons = {QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Question,
+                               QMessageBox::Warning, QMessageBox::Information};
 
 // A box breaks its lines after so many pixels, whatever the size of the letters; a short text stays on one
 // line all the same. `kWidest` is what fits beside the icon into the largest box that the toolkit makes.
@@ -45,7 +34,7 @@ Answer ShowMessage(QWidget* owner, const Message& message, const std::string& ap
     box.setTextFormat(Qt::PlainText);  // a nickname is no markup
     box.setText(QString::fromStdString(message.Text));
     box.setWindowTitle(QString::fromStdString(message.Title.empty() ? applicationTitle : message.Title));
-    box.setIcon(IconOf(message.Icon));
+    box.setIcon(kIcons.at(static_cast<std::size_t>(message.Icon)));
     KeepLines(box);
     if (message.Buttons == Buttons::Ok) {
         box.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
@@ -72,11 +61,10 @@ std::string AskText(QWidget* owner, const std::string& prompt, const std::string
 }
 
 bool AskColor(QWidget* owner, CommonDialog& dialog) {
-    QColorDialog chooser(ColorOf(dialog.Color), owner);
-    chooser.setWindowTitle(QStringLiteral("Color"));
-    chooser.setOption(QColorDialog::DontUseNativeDialog);
-    if (chooser.exec() != QDialog::Accepted) return false;
-    dialog.Color = CodeOf(chooser.selectedColor());
+    const QColor chosen = QColorDialog::getColor(ColorOf(dialog.Color), owner, QStringLiteral("Color"),
+                                                 QColorDialog::DontUseNativeDialog);
+    if (!chosen.isValid()) return false;
+    dialog.Color = CodeOf(chosen);
     return true;
 }
 

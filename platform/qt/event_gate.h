@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 
 namespace zarpel {
 
@@ -36,6 +37,7 @@ class EventGate {
         closed_ = true;
     }
 
+    // Called whenever no handler is left; may be empty.
     Handler Idle;
 
   private:

@@ -44,7 +44,7 @@ class SpanishList : public QIdentityProxyModel {
     }
 };
 
-// Where "/" divides a path, the toolkit takes "\\" for a letter, but the game opens it as "/": the chooser
+// Where "/" divides a path, the toolkit takes "\" for a letter, but the game opens it as "/": the chooser
 // would ask about another file than the one replaced.
 void RefuseBackslash(const QFileDialog& chooser) {
     auto* const name = chooser.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));

@@ -1,6 +1,7 @@
 #include "platform/qt/fonts.h"
 
 #include <QFontMetrics>
+#include <algorithm>
 #include <array>
 
 namespace zarpel {

@@ -117,7 +117,7 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    client_ = new ClientArea(form, context, this);
+    client_ = new ClientArea(form, context_, this);
     layout->addWidget(client_, 1);
     form.Changed = [this] {
         setWindowTitle(QString::fromStdString(form_.Caption));
@@ -129,11 +129,10 @@ FormWindow::~FormWindow() { form_.Changed = nullptr; }
 
 void FormWindow::AddMenus() {
     if (form_.Menus.empty()) return;
-    menuBar_ = new QMenuBar(this);
-    menuBar_->setNativeMenuBar(false);
-    layout()->setMenuBar(menuBar_);
+    auto* const bar = new QMenuBar(this);
+    layout()->setMenuBar(bar);
     for (const Menu* const menu : form_.Menus) {
-        QMenu* const drop = menuBar_->addMenu(QString::fromStdString(menu->Caption));
+        QMenu* const drop = bar->addMenu(QString::fromStdString(menu->Caption));
         for (const Menu* const entry : menu->Entries) {
             QAction* const action = drop->addAction(QString::fromStdString(entry->Caption));
             action->setMenuRole(QAction::NoRole);

@@ -4,14 +4,10 @@
 #include <QDeadlineTimer>
 #include <QWidget>
 #include <functional>
-#include <memory>
 #include <vector>
 
 #include "platform/form.h"
-#include "platform/qt/event_gate.h"
 #include "platform/qt/views.h"
-
-class QMenuBar;
 
 namespace zarpel {
 
@@ -66,8 +62,7 @@ class FormWindow : public QWidget {
     void FitNow();
 
     Form& form_;
-    const ViewContext& context_;
-    QMenuBar* menuBar_ = nullptr;  // forms without menus have none
+    const ViewContext context_;  // the views refer to it
     ClientArea* client_;
     QDeadlineTimer settled_{QDeadlineTimer::Forever};
     std::vector<View*> views_;  // children of the window, which owns them

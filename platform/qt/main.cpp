@@ -1,6 +1,5 @@
 // The game on the Qt desktop.
 #include <QApplication>
-#include <QDir>
 
 #include "platform/qt/qt_desktop.h"
 #include "ui/playing.h"

@@ -99,7 +99,12 @@ QPixmap Pictures::Scaled(const std::string& path, const QSize& size, int corner,
     if (path.empty() || size.isEmpty() || !Load(path)) return {};
     const QString name = SystemPath(path);
     const QSize pixels = (QSizeF(size) * ratio).toSize();
-    const QString key = QStringLiteral("%1x%2 %3").arg(pixels.width()).arg(pixels.height()).arg(name);
+    const QString key = QStringLiteral("%1x%2 %3 %4 %5")
+                            .arg(pixels.width())
+                            .arg(pixels.height())
+                            .arg(corner)
+                            .arg(ratio)
+                            .arg(name);
     if (const auto found = scaled_.constFind(key); found != scaled_.constEnd()) return *found;
     QPixmap pixmap = Stretch(decoded_.value(name), pixels, corner * ratio);
     pixmap.setDevicePixelRatio(ratio);

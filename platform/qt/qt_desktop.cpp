@@ -3,12 +3,10 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QLocale>
-#include <QProcess>
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
 #include <QTranslator>
-#include <QWindow>
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -24,10 +22,11 @@
 namespace zarpel {
 namespace {
 
-// When what the table does not wait for is done, after the start.
+// Milliseconds after the start at which the program does what its first picture can do without.
 constexpr int kLaterMs = 300;
 
-// Acts once, from the event loop, so many milliseconds from now, unless the receiver is gone by then.
+// Acts once, from the event loop, so many milliseconds from now, unless the receiver is gone by then. Not
+// QTimer::singleShot, whose timer the leak check takes for lost when the program ends first.
 template <class Action>
 void After(int milliseconds, QObject* receiver, Action action) {
     auto* const timer = new QTimer(receiver);
@@ -71,16 +70,16 @@ FormWindow* QtDesktop::WindowOf(const Form& form) const {
 QWidget* QtDesktop::TopWindow() const { return opened_.empty() ? nullptr : opened_.back().Window.get(); }
 
 FormWindow& QtDesktop::Open(Form& form, std::function<void()> unloaded) {
-    const ViewContext& context =
-        contexts_.try_emplace(&form, ViewContext{scale_, pictures_, GateOf(form)}).first->second;
-    auto window = std::make_unique<FormWindow>(form, context, TopWindow());
+    auto window =
+        std::make_unique<FormWindow>(form, ViewContext{scale_, pictures_, GateOf(form)}, TopWindow());
     opened_.push_back({&form, std::move(window), std::move(unloaded)});
     return *opened_.back().Window;
 }
 
 void QtDesktop::Show(Form& form) {
     if (WindowOf(form)) return;
-    // Once its handler has returned, and the event loop runs: it may still be that of the start.
+    // Not at once: the handler that unloads the form is still running, perhaps before the program's event
+    // loop.
     const auto leave = [this, &form] {
         Forget(form);
         QApplication::quit();
@@ -128,7 +127,6 @@ void QtDesktop::ShowModal(Form& form) {
 
 void QtDesktop::Forget(const Form& form) {
     std::erase_if(opened_, [&form](const Opened& opened) { return opened.Shown == &form; });
-    contexts_.erase(&form);
     gates_.erase(&form);
 }
 

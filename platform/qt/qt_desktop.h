@@ -75,7 +75,6 @@ class QtDesktop : public Desktop {
     Scale scale_;
     Pictures pictures_;
     std::map<const Form*, EventGate> gates_;
-    std::map<const Form*, ViewContext> contexts_;
     std::vector<Opened> opened_;        // the lowest first
     std::unique_ptr<HelpWindow> help_;  // made when the player first asks for it
     std::mt19937_64 generator_;

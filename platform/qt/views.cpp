@@ -2,13 +2,10 @@
 
 #include <qdrawutil.h>
 #include <QDateTime>
-#include <QGridLayout>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
-#include <QTabBar>
 
 #include "platform/qt/colors.h"
 #include "platform/qt/fonts.h"
@@ -150,7 +147,6 @@ void AreaView::Dropped(Image& source) {
 
 void FrameView::Sync() {
     ControlView::Sync();
-    setFont(FontOf({}, context_.Scale));
     setTitle(QString::fromStdString(control_.Caption));
 }
 
@@ -210,7 +206,6 @@ void ToolBarView::Sync() {
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         QToolButton* const view = buttons_[i];
         const auto picture = QString::fromStdString(control_.Buttons[i].Picture);
-        view->setFont(FontOf({}, context_.Scale));
         view->setIcon(QPixmap::fromImage(BuiltInPicture(picture, qCeil(pixels * devicePixelRatioF()))));
         view->setIconSize({pixels, pixels});
         view->setGeometry(context_.Scale.Pixels(Place{left, 0, control_.ButtonWidth, control_.ButtonHeight}));
@@ -236,7 +231,6 @@ void StatusBarView::Sync() {
     int left = 0;
     for (std::size_t i = 0; i < panels_.size(); ++i) {
         const int width = control_.Panels[i].Width;
-        panels_[i]->setFont(FontOf({}, context_.Scale));
         panels_[i]->setGeometry(context_.Scale.Pixels(Place{left, 0, width, control_.Height}));
         left += width;
     }
@@ -286,7 +280,6 @@ TabStripView::TabStripView(TabStrip& strip, const ViewContext& context, QWidget*
 
 void TabStripView::Sync() {
     ControlView::Sync();
-    setFont(FontOf({}, context_.Scale));
     setCurrentIndex(control_.Selected - 1);
 }
 

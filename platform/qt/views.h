@@ -2,7 +2,6 @@
 // actions over as the control's events.
 #pragma once
 
-#include <QBoxLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -35,7 +34,8 @@ class View {
 
     // Brings the widget into step with its control.
     virtual void Sync() = 0;
-    // From now on, every change of the control does so. Before its place is known, that would be lost work.
+    // From now on, every change of the control calls Sync. Not from the beginning: before the window's size
+    // is known, its controls would be laid out for nothing.
     virtual void Follow() = 0;
 
     // A view that can be pressed takes Press for a click of the pointer.

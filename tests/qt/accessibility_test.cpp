@@ -1,3 +1,4 @@
+// What a screen reader finds in the table's window, and is told.
 #include <QAccessible>
 
 #include "tests/qt/qt_table.h"
@@ -36,8 +37,10 @@ TEST_F(AccessibilityTest, TheTreeHoldsTheShownCardsAndNoHiddenOne) {
                     {"mano 2", "10 de espada"},
                     {"cpu 1", "carta tapada"},
                     {"cpu 3", "carta tapada"}}));
-    // A name is told when it is set, so that of a covered card is not.
+    // A name is told when it is set, so a card gets it when the computer turns it up.
     EXPECT_NE(ViewOf<ImageView>(Game.cartap1img[2]).accessibleName(), "4 de basto");
+    Game.fondop1img[2].Visible = false;
+    EXPECT_EQ(CardsOf(QAccessible::queryAccessibleInterface(&Window())).at("cpu 3"), "4 de basto");
     EXPECT_TRUE(accessible(Game.fondop1img[0])->actionInterface()->actionNames().isEmpty());
 }
 

@@ -1,3 +1,4 @@
+// Boxes, choosers and modal windows, left by every way out.
 #include <QAccessible>
 #include <QColorDialog>
 #include <QMessageBox>

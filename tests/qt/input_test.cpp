@@ -1,3 +1,4 @@
+// Clicks, drags and keys, and what comes while the game is busy.
 #include <QMenuBar>
 
 #include "platform/qt/keyboard.h"

@@ -1,3 +1,4 @@
+// What the windows paint.
 #include <sys/stat.h>
 
 #include <QFontMetrics>

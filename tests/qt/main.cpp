@@ -1,3 +1,4 @@
+// Runs the tests of the Qt side, without a display.
 #include <gtest/gtest.h>
 
 #include <QApplication>
