@@ -26,7 +26,7 @@ const QList<QImage>& Cards() {
         const Deck deck(ZARPEL_DATA_DIR);
         QList<QImage> read;
         for (int i = 1; i <= kCards; ++i) {
-            const QImage card(ZARPEL_PICTURES_DIR "/app/" + deck.fileName(i));
+            const QImage card(ZARPEL_PICTURES_DIR "/app/" + deck.FileName(i));
             read << card.convertToFormat(QImage::Format_ARGB32);
         }
         return read;
@@ -47,7 +47,7 @@ int CountDifferent(const QImage& a, const QImage& b, bool (*differ)(QRgb, QRgb))
 
 TEST(Pictures, HaveTheirSizesAndAreTheSameBytesEachTime) {
     const QTemporaryDir again;
-    drawAll(ZARPEL_DATA_DIR, again.path());
+    DrawAll(ZARPEL_DATA_DIR, again.path());
     const QDir built(ZARPEL_PICTURES_DIR), drawn(again.path());
     QDirIterator it(drawn.path(), {"*.png", "*.jpg"}, QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
@@ -56,7 +56,7 @@ TEST(Pictures, HaveTheirSizesAndAreTheSameBytesEachTime) {
         const int side = name.section('-', 1).section('.', 0, 0).toInt();  // an icon's name ends in it
         if (side != 0) size = {side, side};
         EXPECT_EQ(QImage(path).size(), size) << name.toStdString();
-        EXPECT_EQ(readAll(path), readAll(built.filePath(name))) << name.toStdString();
+        EXPECT_EQ(ReadAll(path), ReadAll(built.filePath(name))) << name.toStdString();
     }
 }
 
@@ -126,7 +126,7 @@ TEST(Pictures, TheFramesBreaksTellTheSuitAndCardsEndAtTheirRoundedEdge) {
     const int breaks[] = {2, 3, 0, 1};
     const int width = kCardPixels.width(), height = kCardPixels.height();
     const int rule = 21 * height / kCardHeight;
-    const QImage edge = draw(
+    const QImage edge = Draw(
         "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 360 528'>"
         "<rect x='1' y='1' width='358' height='526' rx='22' stroke='#000' stroke-width='2'/></svg>",
         kCardPixels);

@@ -17,13 +17,13 @@ TEST(Guide, HoldsEverySourceAndLeadsToEveryPageAndNowhereElse) {
     const auto textOf = [&](const QUrl& address) { return QString::fromUtf8(help->Object(address)); };
     QList<QUrl> addresses;
     QSet<QString> listed;
-    for (const HelpTopic& topic : help->contents()) {
-        if (topic.page.isEmpty()) continue;
-        addresses << topic.page;
-        listed << topic.page.path();
+    for (const HelpTopic& topic : help->Contents()) {
+        if (topic.Page.isEmpty()) continue;
+        addresses << topic.Page;
+        listed << topic.Page.path();
     }
     for (const HelpTopic& entry : ReadContents(help->Object(HelpFile::Address("ayuda.hhk")))) {
-        addresses << entry.page;
+        addresses << entry.Page;
     }
     const QRegularExpression attribute("(?:href|src|background|data)\\s*=\\s*[\"']([^\"']*)[\"']",
                                        QRegularExpression::CaseInsensitiveOption);

@@ -94,9 +94,9 @@ TEST_F(Window, CtrlAndWheelZoomLettersAndPicturesAndKeepTheHistory) {
     const QVariant card = page.document()->resource(QTextDocument::ImageResource, QUrl("naipes/oro01.png"));
     EXPECT_EQ(card.value<QImage>().width(), 120);
     wheel(-100);
-    EXPECT_EQ(page.zoom(), 50);
+    EXPECT_EQ(page.Zoom(), 50);
     Press(Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(page.zoom(), 100);
+    EXPECT_EQ(page.Zoom(), 100);
     Press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(Shown(), "chm:/index.html");
 }

@@ -14,13 +14,13 @@ constexpr const char* kSuits[] = {"espada", "basto", "oro", "copa"};
 const QRegularExpression kColour("#[0-9a-f]{6}");
 const QRegularExpression kLink("xlink:href=\"#([^\"]*)\"");
 
-[[noreturn]] void fail(const QString& file, const QString& what) {
+[[noreturn]] void Fail(const QString& file, const QString& what) {
     throw std::runtime_error((file + ": " + what).toStdString());
 }
 
-QStringList lines(const QString& path) {
+QStringList Lines(const QString& path) {
     QStringList result;
-    for (const auto& line : QString::fromUtf8(readAll(path)).split('\n')) {
+    for (const auto& line : QString::fromUtf8(ReadAll(path)).split('\n')) {
         const auto text = line.section("# ", 0, 0).trimmed();
         if (!text.isEmpty() && text != "#") result << text;
     }
@@ -28,16 +28,16 @@ QStringList lines(const QString& path) {
 }
 
 // What a part file holds between its <svg ...> and </svg>.
-QString content(const QString& path) {
-    const auto text = QString::fromUtf8(readAll(path));
+QString Content(const QString& path) {
+    const auto text = QString::fromUtf8(ReadAll(path));
     const auto root = text.indexOf("<svg");
     const auto begin = text.indexOf('>', root) + 1;
     const auto end = text.lastIndexOf("</svg>");
-    if (root < 0 || end < begin) fail(path, "no <svg> element");
+    if (root < 0 || end < begin) Fail(path, "no <svg> element");
     return text.mid(begin, end - begin);
 }
 
-QString place(const QString& id, const QString& transform = "translate(0 0)") {
+QString Place(const QString& id, const QString& transform = "translate(0 0)") {
     return QString("<use xlink:href=\"#%1\" transform=\"%2\"/>\n").arg(id, transform);
 }
 
@@ -45,27 +45,27 @@ const QString kHalfTurn = QString("rotate(180 %1 %2)").arg(kCardWidth / 2).arg(k
 
 }  // namespace
 
-QByteArray readAll(const QString& path) {
+QByteArray ReadAll(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) fail(path, file.errorString());
+    if (!file.open(QIODevice::ReadOnly)) Fail(path, file.errorString());
     return file.readAll();
 }
 
-Deck::Deck(const QString& dataFolder) : names_(lines(dataFolder + "/naipe.txt")) {
-    if (names_.size() != kCards) fail("naipe.txt", "a deck has 40 names");
+Deck::Deck(const QString& dataFolder) : names_(Lines(dataFolder + "/naipe.txt")) {
+    if (names_.size() != kCards) Fail("naipe.txt", "a deck has 40 names");
     const QDir folder(dataFolder + "/cartas");
     for (const auto& file : folder.entryList({"*.svg"}, QDir::Files, QDir::Name)) {
-        parts_ += content(folder.filePath(file));
+        parts_ += Content(folder.filePath(file));
     }
-    for (const auto& line : lines(folder.filePath("baraja.txt"))) readLine(line);
-    for (const auto& match : kLink.globalMatch(parts_)) requirePart(match.captured(1));
+    for (const auto& line : Lines(folder.filePath("baraja.txt"))) ReadLine(line);
+    for (const auto& match : kLink.globalMatch(parts_)) RequirePart(match.captured(1));
 }
 
-void Deck::requirePart(const QString& id) const {
-    if (!parts_.contains("id=\"" + id + '"')) fail("cartas", "no part is named " + id);
+void Deck::RequirePart(const QString& id) const {
+    if (!parts_.contains("id=\"" + id + '"')) Fail("cartas", "no part is named " + id);
 }
 
-void Deck::readLine(const QString& line) {
+void Deck::ReadLine(const QString& line) {
     auto words = line.split(' ', Qt::SkipEmptyParts);
     const auto kind = words.takeFirst();
     if (kind == "color" && words.size() == 2) {
@@ -76,36 +76,34 @@ void Deck::readLine(const QString& line) {
         const auto suit = words.takeFirst();
         for (const auto& word : words) {
             const auto name = word.section('=', 0, 0);
-            if (!colours_.contains(name)) fail("baraja.txt", "no colour " + name);
+            if (!colours_.contains(name)) Fail("baraja.txt", "no colour " + name);
             palettes_[suit][colours_[name]] = word.section('=', 1);
         }
         return;
     }
     if (kind == "puntos" && words.size() > 3) {
-        const auto suits = words.takeFirst().split(',');
+        const auto suit = words.takeFirst();
         const auto number = words.takeFirst();
         const auto scale = words.takeFirst();
-        for (const auto& suit : suits) {
-            for (const auto& word : words) {
-                const auto turn = word.section(',', 2);
-                pips_[suit + number] +=
-                    place(suit, QString("translate(%1) rotate(%2) scale(%3)")
-                                    .arg(word.section(',', 0, 1), turn.isEmpty() ? "0" : turn, scale));
-            }
+        for (const auto& word : words) {
+            const auto turn = word.section(',', 2);
+            pips_[suit + number] +=
+                Place(suit, QString("translate(%1) rotate(%2) scale(%3)")
+                                .arg(word.section(',', 0, 1), turn.isEmpty() ? "0" : turn, scale));
         }
         return;
     }
-    fail("baraja.txt", "cannot read the line: " + line);
+    Fail("baraja.txt", "cannot read the line: " + line);
 }
 
-QString Deck::pips(const QString& suit, int number) const {
+QString Deck::Pips(const QString& suit, int number) const {
     const auto name = suit + QString::number(number);
     if (pips_.contains(name)) return pips_[name];
-    requirePart(name);
-    return place(name);
+    RequirePart(name);
+    return Place(name);
 }
 
-QByteArray Deck::document(const QString& suit, const QString& body) const {
+QByteArray Deck::Document(const QString& suit, const QString& body) const {
     // One pass over the colours, so that a suit may swap two of them.
     const auto palette = palettes_.value(suit);
     QString parts;
@@ -124,14 +122,14 @@ QByteArray Deck::document(const QString& suit, const QString& body) const {
         .toUtf8();
 }
 
-QByteArray Deck::card(int index) const {
+QByteArray Deck::Card(int index) const {
     const QString suit = kSuits[(index - 1) / 10];
     const int number = (index - 1) % 10 + 1;
     const auto figure = "cifra" + QString::number(number);
-    return document(suit, place("naipe") + place("marco-" + suit) + pips(suit, number) + place(figure) +
-                              place(figure, kHalfTurn));
+    return Document(suit, Place("naipe") + Place("marco-" + suit) + Pips(suit, number) + Place(figure) +
+                              Place(figure, kHalfTurn));
 }
 
-QByteArray Deck::back() const { return document({}, place("dorso")); }
+QByteArray Deck::Back() const { return Document({}, Place("dorso")); }
 
 }  // namespace zarpel

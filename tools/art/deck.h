@@ -25,17 +25,17 @@ class Deck {
     explicit Deck(const QString& dataFolder);
 
     // Picture file name of a card; index is 1 to 40, as in the game.
-    QString fileName(int index) const { return names_.at(index - 1); }
+    QString FileName(int index) const { return names_.at(index - 1); }
     // The whole card as an SVG document.
-    QByteArray card(int index) const;
+    QByteArray Card(int index) const;
     // The card back, to the full rectangle (JPEG has no transparency).
-    QByteArray back() const;
+    QByteArray Back() const;
 
   private:
-    void readLine(const QString& line);
-    void requirePart(const QString& id) const;
-    QByteArray document(const QString& suit, const QString& body) const;
-    QString pips(const QString& suit, int number) const;
+    void ReadLine(const QString& line);
+    void RequirePart(const QString& id) const;
+    QByteArray Document(const QString& suit, const QString& body) const;
+    QString Pips(const QString& suit, int number) const;
 
     QStringList names_;
     QString parts_;
@@ -45,6 +45,6 @@ class Deck {
 };
 
 // All bytes of a file; throws std::runtime_error when it cannot be read.
-QByteArray readAll(const QString& path);
+QByteArray ReadAll(const QString& path);
 
 }  // namespace zarpel

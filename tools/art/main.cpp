@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        zarpel::drawAll(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2]));
+        zarpel::DrawAll(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2]));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "dibuja: %s\n", error.what());
         return 1;

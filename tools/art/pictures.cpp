@@ -15,20 +15,20 @@ namespace zarpel {
 
 namespace {
 
-void write(const QString& path, const QImage& picture, const char* format, int quality) {
+void Write(const QString& path, const QImage& picture, const char* format, int quality) {
     QImageWriter writer(path, format);
     writer.setQuality(quality);
     if (!writer.write(picture)) throw std::runtime_error((path + ": " + writer.errorString()).toStdString());
 }
 
-void writePng(const QString& path, const QImage& picture) { write(path, picture, "png", 0); }
+void WritePng(const QString& path, const QImage& picture) { Write(path, picture, "png", 0); }
 
 // JPEG has no transparency: what nothing covers is white.
-void writeJpeg(const QString& path, const QImage& picture) {
+void WriteJpeg(const QString& path, const QImage& picture) {
     QImage opaque(picture.size(), QImage::Format_RGB32);
     opaque.fill(Qt::white);
     QPainter(&opaque).drawImage(0, 0, picture);
-    write(path, opaque, "jpg", 92);
+    Write(path, opaque, "jpg", 92);
 }
 
 struct Icon {
@@ -50,24 +50,18 @@ const Icon kIcons[] = {
     {"zarpel", "zarpel", {32, 48, 64, 128, 256, 512}},
 };
 
-void drawIcons(const QString& from, const QString& to) {
+void DrawIcons(const QString& from, const QString& to) {
     for (const auto& [source, name, sizes] : kIcons) {
-        const auto svg = readAll(QString("%1/%2.svg").arg(from, source));
+        const auto svg = ReadAll(QString("%1/%2.svg").arg(from, source));
         for (const int size : sizes) {
-            writePng(QString("%1/%2-%3.png").arg(to, name).arg(size), draw(svg, {size, size}));
+            WritePng(QString("%1/%2-%3.png").arg(to, name).arg(size), Draw(svg, {size, size}));
         }
     }
 }
 
-int distance(QRgb a, QRgb b) {
-    const int red = qRed(a) - qRed(b), green = qGreen(a) - qGreen(b), blue = qBlue(a) - qBlue(b);
-    const int alpha = qAlpha(a) - qAlpha(b);
-    return red * red + green * green + blue * blue + alpha * alpha;
-}
-
 }  // namespace
 
-QImage draw(const QByteArray& svg, QSize pixels) {
+QImage Draw(const QByteArray& svg, QSize pixels) {
     QSvgRenderer renderer(svg);
     if (!renderer.isValid()) throw std::runtime_error("a picture is not valid SVG");
     QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -77,15 +71,12 @@ QImage draw(const QByteArray& svg, QSize pixels) {
     return picture;
 }
 
-QImage withPalette(const QImage& picture) {
+QImage WithPalette(const QImage& picture) {
     const auto source = picture.convertToFormat(QImage::Format_ARGB32);
     QHash<QRgb, int> counts;
-    const auto forEachPixel = [&](auto visit) {
-        for (int y = 0; y < source.height(); ++y) {
-            for (int x = 0; x < source.width(); ++x) visit(x, y, source.pixel(x, y));
-        }
-    };
-    forEachPixel([&](int, int, QRgb colour) { ++counts[colour]; });
+    for (int y = 0; y < source.height(); ++y) {
+        for (int x = 0; x < source.width(); ++x) ++counts[source.pixel(x, y)];
+    }
 
     // The drawings have few flat colours and many mixtures along their edges. The most frequent colours, told
     // apart to 4 bits a channel, hold all of the former and are near enough to the latter.
@@ -101,20 +92,10 @@ QImage withPalette(const QImage& picture) {
         palette << colour;
     }
 
-    QHash<QRgb, uchar> nearest;
-    for (const auto colour : colours) {
-        const auto closest = std::min_element(palette.cbegin(), palette.cend(), [&](QRgb a, QRgb b) {
-            return distance(a, colour) < distance(b, colour);
-        });
-        nearest[colour] = static_cast<uchar>(closest - palette.cbegin());
-    }
-    QImage result(source.size(), QImage::Format_Indexed8);
-    result.setColorTable(palette);
-    forEachPixel([&](int x, int y, QRgb colour) { result.scanLine(y)[x] = nearest[colour]; });
-    return result;
+    return source.convertToFormat(QImage::Format_Indexed8, palette);
 }
 
-QByteArray cardList(const QStringList& names) {
+QByteArray CardList(const QStringList& names) {
     QByteArray list;
     for (const auto& name : names) {
         const auto text = name.toLatin1();
@@ -124,7 +105,7 @@ QByteArray cardList(const QStringList& names) {
     return list;
 }
 
-void drawAll(const QString& dataFolder, const QString& outFolder) {
+void DrawAll(const QString& dataFolder, const QString& outFolder) {
     const QDir out(outFolder);
     for (const auto* folder : {"app", "builtin", "ayuda"}) {
         if (!out.mkpath(folder))
@@ -133,20 +114,20 @@ void drawAll(const QString& dataFolder, const QString& outFolder) {
     const Deck deck(dataFolder);
     QStringList names;
     for (int index = 1; index <= kCards; ++index) {
-        const auto name = deck.fileName(index);
-        writePng(out.filePath("app/" + name), withPalette(draw(deck.card(index), kCardPixels)));
+        const auto name = deck.FileName(index);
+        WritePng(out.filePath("app/" + name), WithPalette(Draw(deck.Card(index), kCardPixels)));
         names << name;
     }
     QFile list(out.filePath("app/naipe.dat"));
-    const auto records = cardList(names);
+    const auto records = CardList(names);
     if (!list.open(QIODevice::WriteOnly) || list.write(records) != records.size()) {
         throw std::runtime_error(list.fileName().toStdString() + ": cannot be written");
     }
-    const auto back = deck.back();
-    writeJpeg(out.filePath("app/dibujo.jpg"), draw(back, kCardPixels));
-    writeJpeg(out.filePath("builtin/dorso.jpg"), draw(back, kBuiltinBackPixels));
-    writePng(out.filePath("ayuda/dorso.png"), withPalette(draw(back, kCardPixels)));
-    drawIcons(dataFolder + "/iconos", out.filePath("builtin"));
+    const auto back = deck.Back();
+    WriteJpeg(out.filePath("app/dibujo.jpg"), Draw(back, kCardPixels));
+    WriteJpeg(out.filePath("builtin/dorso.jpg"), Draw(back, kBuiltinBackPixels));
+    WritePng(out.filePath("ayuda/dorso.png"), WithPalette(Draw(back, kCardPixels)));
+    DrawIcons(dataFolder + "/iconos", out.filePath("builtin"));
 }
 
 }  // namespace zarpel

@@ -16,15 +16,15 @@ constexpr QSize kCardPixels{364, 534};
 constexpr QSize kBuiltinBackPixels{95, 150};
 
 // Writes all of it; folders are made as needed. Throws std::runtime_error when a source or a file fails.
-void drawAll(const QString& dataFolder, const QString& outFolder);
+void DrawAll(const QString& dataFolder, const QString& outFolder);
 
 // An SVG document drawn over the whole of a transparent picture.
-QImage draw(const QByteArray& svg, QSize pixels);
+QImage Draw(const QByteArray& svg, QSize pixels);
 
 // The same picture with at most 256 colours: a quarter of the bytes, and nobody sees the difference.
-QImage withPalette(const QImage& picture);
+QImage WithPalette(const QImage& picture);
 
 // The card list file: 40 records of 16 bytes, a 2-byte little-endian length, the name, zeros.
-QByteArray cardList(const QStringList& names);
+QByteArray CardList(const QStringList& names);
 
 }  // namespace zarpel

@@ -1,5 +1,6 @@
-// hoja PICTURES-FOLDER FILE.png: the contact sheet, from the pictures that dibuja has made. The whole deck in
-// four rows of ten, the back and the icons, and below the same deck at table size on the table's green.
+// hoja DATA-FOLDER PICTURES-FOLDER FILE.png: the contact sheet, from the pictures that dibuja has made. The
+// whole deck in four rows of ten, the back and the icons, and below the same deck at table size on the
+// table's green.
 #include <QDir>
 #include <QPainter>
 #include <cstdio>
@@ -14,7 +15,7 @@ using namespace zarpel;
 constexpr QSize kTableCard{80, 125};
 constexpr int kGap = 16;
 
-void deckRows(QPainter& painter, const QList<QImage>& cards, QPoint corner, QSize size) {
+void DeckRows(QPainter& painter, const QList<QImage>& cards, QPoint corner, QSize size) {
     for (int i = 0; i < kCards; ++i) {
         const QPoint at(i % 10 * (size.width() + kGap), i / 10 * (size.height() + kGap));
         painter.drawImage(corner + at,
@@ -25,17 +26,15 @@ void deckRows(QPainter& painter, const QList<QImage>& cards, QPoint corner, QSiz
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fputs("usage: hoja PICTURES-FOLDER FILE.png\n", stderr);
+    if (argc != 4) {
+        std::fputs("usage: hoja DATA-FOLDER PICTURES-FOLDER FILE.png\n", stderr);
         return 2;
     }
-    const QDir pictures(QString::fromLocal8Bit(argv[1]));
+    const QDir pictures(QString::fromLocal8Bit(argv[2]));
     const auto load = [&](const QString& name) { return QImage(pictures.filePath(name)); };
-    const auto list = readAll(pictures.filePath("app/naipe.dat"));
+    const Deck deck(QString::fromLocal8Bit(argv[1]));
     QList<QImage> cards;
-    for (int i = 0; i < kCards; ++i) {
-        cards << load("app/" + list.mid(qsizetype{16} * i + 2, list[qsizetype{16} * i]));
-    }
+    for (int i = 1; i <= kCards; ++i) cards << load("app/" + deck.FileName(i));
 
     const int width = 10 * (kCardPixels.width() + kGap) + kGap;
     const int deckHeight = 4 * (kCardPixels.height() + kGap) + kGap;
@@ -43,9 +42,9 @@ int main(int argc, char** argv) {
     QImage sheet(width, deckHeight + 4 * (kTableCard.height() + kGap) + kGap, QImage::Format_RGB32);
     sheet.fill(QColor(70, 74, 78));
     QPainter painter(&sheet);
-    deckRows(painter, cards, {kGap, kGap}, kCardPixels);
+    DeckRows(painter, cards, {kGap, kGap}, kCardPixels);
     painter.fillRect(QRect(0, deckHeight, tableWidth, sheet.height() - deckHeight), QColor(0, 128, 0));
-    deckRows(painter, cards, {kGap, deckHeight + kGap}, kTableCard);
+    DeckRows(painter, cards, {kGap, deckHeight + kGap}, kTableCard);
     QPoint at(tableWidth + kGap, deckHeight + kGap);
     painter.drawImage(at, load("app/dibujo.jpg"));
     at.rx() += kCardPixels.width() + kGap;
@@ -67,5 +66,5 @@ int main(int argc, char** argv) {
         at.rx() += size + kGap;
     }
     painter.end();
-    return sheet.save(QString::fromLocal8Bit(argv[2])) ? 0 : 1;
+    return sheet.save(QString::fromLocal8Bit(argv[3])) ? 0 : 1;
 }

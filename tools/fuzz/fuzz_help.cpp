@@ -20,8 +20,8 @@ void ReadWholeFile(const QByteArray& bytes) {
     file.close();
     const auto help = zarpel::HelpFile::Open(file.fileName());
     if (!help) return;
-    if (!help->Has(help->firstPage())) std::abort();
-    for (const QString& path : help->paths()) help->Object(zarpel::HelpFile::Address(path));
+    if (!help->Has(help->FirstPage())) std::abort();
+    for (const QString& path : help->Paths()) help->Object(zarpel::HelpFile::Address(path));
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReadWholeFile(bytes);
     zarpel::ReadSystem(bytes);
     for (const zarpel::HelpTopic& topic : zarpel::ReadContents(bytes)) {
-        if (topic.title.isEmpty() || topic.depth < 0) std::abort();
+        if (topic.Title.isEmpty() || topic.Depth < 0) std::abort();
     }
     return 0;
 }

@@ -18,7 +18,7 @@ class HelpBrowser : public QTextBrowser {
     // Takes the file whose pages are shown from now on and forgets where the reader has been. Shows nothing
     // by itself.
     void SetFile(std::optional<HelpFile> file);
-    const std::optional<HelpFile>& file() const { return file_; }
+    const std::optional<HelpFile>& File() const { return file_; }
 
     // How much larger pages are at 100 % than they were laid out, so that their letters are never smaller
     // than the application's.
@@ -27,7 +27,7 @@ class HelpBrowser : public QTextBrowser {
     // Letters and pictures at `percent` of their normal size, within sensible limits; the place in the page
     // is kept.
     void SetZoom(int percent);
-    int zoom() const { return zoom_; }
+    int Zoom() const { return zoom_; }
     // Zooms by `steps` notches of a mouse wheel.
     void ZoomBy(int steps);
 

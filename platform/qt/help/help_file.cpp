@@ -92,8 +92,8 @@ Attributes AttributesOf(const QString& tag) {
 void SetParameter(HelpTopic& topic, const Attributes& attributes) {
     const QString name = attributes.value(QStringLiteral("name")).toLower();
     const QString value = attributes.value(QStringLiteral("value"));
-    if (name == QLatin1String("name")) topic.title = value;
-    if (name == QLatin1String("local")) topic.page = HelpFile::Address(value);
+    if (name == QLatin1String("name")) topic.Title = value;
+    if (name == QLatin1String("local")) topic.Page = HelpFile::Address(value);
 }
 
 }  // namespace
@@ -108,9 +108,9 @@ std::optional<HelpFile> HelpFile::Open(const QString& file) {
     HelpFile help;
     help.objects_ = Extracted(file);
     const HelpSystem system = ReadSystem(help.Object(Address(QStringLiteral("%23SYSTEM"))));
-    help.title_ = system.title;
-    help.firstPage_ = Address(system.firstPage);
-    help.contents_ = ReadContents(help.Object(Address(system.contentsFile)));
+    help.title_ = system.Title;
+    help.firstPage_ = Address(system.FirstPage);
+    help.contents_ = ReadContents(help.Object(Address(system.ContentsFile)));
     if (!help.Has(help.firstPage_)) return std::nullopt;
     return help;
 }
@@ -127,7 +127,7 @@ HelpSystem ReadSystem(const QByteArray& source) {
     constexpr int kVersionLength = 4;
     HelpSystem system;
     const QHash<int, QString*> texts{
-        {ContentsFile, &system.contentsFile}, {DefaultTopic, &system.firstPage}, {Title, &system.title}};
+        {ContentsFile, &system.ContentsFile}, {DefaultTopic, &system.FirstPage}, {Title, &system.Title}};
     QDataStream in(source);
     in.setByteOrder(QDataStream::LittleEndian);
     in.skipRawData(kVersionLength);
@@ -159,10 +159,10 @@ std::vector<HelpTopic> ReadContents(const QByteArray& source) {
         } else if (name == QLatin1String("param") && open) {
             SetParameter(*open, attributes);
         } else if (closing) {
-            if (open && !open->title.isEmpty()) topics.push_back(*open);
+            if (open && !open->Title.isEmpty()) topics.push_back(*open);
             open.reset();
         } else if (attributes.value(QStringLiteral("type")) == QLatin1String("text/sitemap")) {
-            open = HelpTopic{.title = {}, .page = {}, .depth = std::max(depth, 0)};
+            open = HelpTopic{.Title = {}, .Page = {}, .Depth = std::max(depth, 0)};
         }
     }
     return topics;

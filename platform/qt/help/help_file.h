@@ -13,11 +13,11 @@
 
 namespace zarpel {
 
-// One entry of the contents tree. Entries come in reading order; `depth` counts from 0.
+// One entry of the contents tree. Entries come in reading order; `Depth` counts from 0.
 struct HelpTopic {
-    QString title;
-    QUrl page;  // empty for a heading without a page of its own
-    int depth = 0;
+    QString Title;
+    QUrl Page;  // empty for a heading without a page of its own
+    int Depth = 0;
 };
 
 class HelpFile {
@@ -29,10 +29,10 @@ class HelpFile {
     // The address of an object of a help file: "chm:" and its path, which begins with "/".
     static QUrl Address(const QString& path);
 
-    const QString& title() const { return title_; }
-    const QUrl& firstPage() const { return firstPage_; }
-    const std::vector<HelpTopic>& contents() const { return contents_; }
-    QStringList paths() const { return objects_.keys(); }
+    const QString& Title() const { return title_; }
+    const QUrl& FirstPage() const { return firstPage_; }
+    const std::vector<HelpTopic>& Contents() const { return contents_; }
+    QStringList Paths() const { return objects_.keys(); }
 
     bool Has(const QUrl& address) const;
     // The bytes of the object at `address` (its anchor does not count). Empty when the file has no such
@@ -49,9 +49,9 @@ class HelpFile {
 
 // What the table "/#SYSTEM" of a help file says about it; texts are empty where it says nothing.
 struct HelpSystem {
-    QString title;
-    QString firstPage;
-    QString contentsFile;
+    QString Title;
+    QString FirstPage;
+    QString ContentsFile;
 };
 
 // Reads that table. Takes any bytes; stops at the first entry that is cut off.

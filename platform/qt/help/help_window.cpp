@@ -64,7 +64,6 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent)
 
     resize((kUsualSize * page_->Enlargement()).boundedTo(screen()->availableSize() * 95 / 100));
     halves->setSizes({width() * kContentsShare / 100, width() * (100 - kContentsShare) / 100});
-    Read();
 }
 
 QAction* HelpWindow::MakeAction(const QString& text, const QList<QKeySequence>& keys,
@@ -90,14 +89,12 @@ QToolBar* HelpWindow::MakeToolBar() {
     auto* const larger =
         MakeAction(tr("Más grande"), {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, tr("Ctrl++"));
     auto* const normal = MakeAction(tr("Tamaño normal"), {Qt::CTRL | Qt::Key_0}, tr("Ctrl+0"));
-    back->setEnabled(false);
-    forward->setEnabled(false);
 
     connect(back, &QAction::triggered, page_, &QTextBrowser::backward);
     connect(forward, &QAction::triggered, page_, &QTextBrowser::forward);
     connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-    connect(first, &QAction::triggered, this, [this] { page_->setSource(page_->file()->firstPage()); });
+    connect(first, &QAction::triggered, this, [this] { page_->setSource(page_->File()->FirstPage()); });
     connect(find, &QAction::triggered, this, &HelpWindow::OpenSearch);
     connect(larger, &QAction::triggered, page_, [this] { page_->ZoomBy(1); });
     connect(smaller, &QAction::triggered, page_, [this] { page_->ZoomBy(-1); });
@@ -161,7 +158,7 @@ void HelpWindow::Present() {
 
 void HelpWindow::Read() {
     page_->SetFile(HelpFile::Open(path_));
-    const bool readable = page_->file().has_value();
+    const bool readable = page_->File().has_value();
     tools_->setVisible(readable);
     contents_->setVisible(readable);
     for (QAction* const action : actions()) action->setEnabled(readable || action->text().isEmpty());
@@ -170,23 +167,22 @@ void HelpWindow::Read() {
         ShowFailure();
         return;
     }
-    const QString title = page_->file()->title();
+    const QString title = page_->File()->Title();
     setWindowTitle(title.isEmpty() ? tr("Ayuda") : title);
-    page_->clearHistory();
-    page_->setSource(page_->file()->firstPage());
+    page_->setSource(page_->File()->FirstPage());
     page_->setFocus();
 }
 
 void HelpWindow::FillContents() {
     const QSignalBlocker quiet(contents_);
     contents_->clear();
-    if (!page_->file()) return;
+    if (!page_->File()) return;
     std::vector<QTreeWidgetItem*> branch{contents_->invisibleRootItem()};  // the last entry of each depth
-    for (const HelpTopic& topic : page_->file()->contents()) {
-        const auto depth = std::min(static_cast<std::size_t>(topic.depth), branch.size() - 1);
+    for (const HelpTopic& topic : page_->File()->Contents()) {
+        const auto depth = std::min(static_cast<std::size_t>(topic.Depth), branch.size() - 1);
         branch.resize(depth + 1);
-        auto* const item = new QTreeWidgetItem(branch.back(), {topic.title});
-        item->setData(0, kPageRole, topic.page);
+        auto* const item = new QTreeWidgetItem(branch.back(), {topic.Title});
+        item->setData(0, kPageRole, topic.Page);
         branch.push_back(item);
     }
     contents_->expandAll();
