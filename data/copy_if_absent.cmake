@@ -1,4 +1,4 @@
-# cmake -DFROM=file -DTO=file -P copy_if_absent.cmake
+# Copies the file FROM to TO, unless there is one already.
 if(NOT EXISTS "${TO}")
   file(COPY_FILE "${FROM}" "${TO}")
 endif()

@@ -16,9 +16,9 @@ need() {
     done
     [ ${#missing[@]} -eq 0 ] && return
     if ! command -v apt-get >/dev/null; then
-        echo "This system has no apt. Install what these Debian 12 packages hold, then try again:" >&2
+        echo "This system has no apt. If the build fails, install what these Debian 12 packages hold:" >&2
         echo "  ${missing[*]}" >&2
-        exit 1
+        return
     fi
     echo "Installing: ${missing[*]}"
     local as_root=()

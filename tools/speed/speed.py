@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Measures the game side by side with an empty window of the same toolkit.
 
+    cmake --build build/release --target empty_window
     xvfb-run -s '-screen 0 1920x1080x24' tools/speed/speed.py build/release/tools/speed/empty_window \
         build/zarpel/zarpel [pairs]
 
@@ -37,15 +38,13 @@ def stop(screen, process, at, empty):
         time.sleep(0.01)
 
 
-def measure(screen, program, at, times):
-    seconds, memory = [], []
-    for _ in range(times):
-        process, painted, empty = start(screen, program, at)
-        time.sleep(1)
-        seconds.append(painted)
-        memory.append(resident_kb(process.pid))
-        stop(screen, process, at, empty)
-    return statistics.median(seconds) * 1000, statistics.median(memory) / 1024
+def measure(screen, program, at):
+    """The milliseconds to the first paint, and the memory in MB a second later."""
+    process, painted, empty = start(screen, program, at)
+    time.sleep(1)
+    memory = resident_kb(process.pid)
+    stop(screen, process, at, empty)
+    return painted * 1000, memory / 1024
 
 
 def measure_play(screen, program, at, card, above):
@@ -83,7 +82,7 @@ def main():
     results = {empty_program: ([], []), game: ([], [])}
     for _ in range(pairs):
         for program, (seconds, memory) in results.items():
-            painted, resident = measure(screen, program, table, 1)
+            painted, resident = measure(screen, program, table)
             seconds.append(painted)
             memory.append(resident)
     medians = [(statistics.median(s), statistics.median(m)) for s, m in results.values()]
