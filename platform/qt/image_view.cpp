@@ -15,14 +15,14 @@ void ImageView::Sync() {
         setAccessibleDescription(QString::fromStdString(spoken.Description));
     }
     for (ImageView* const covered : covered_) covered->Sync();
+    if (Shown()) context_.Pictures.Prepare(control_.Picture, size(), Corner(), devicePixelRatioF());
     update();
 }
 
 bool ImageView::Shown() const { return control_.Visible && !(control_.Cover && control_.Cover->Visible); }
 
 QPixmap ImageView::Pixmap() const {
-    return context_.Pictures.Scaled(control_.Picture, size(), context_.Scale.Pixels(control_.Corner),
-                                    devicePixelRatioF());
+    return context_.Pictures.Scaled(control_.Picture, size(), Corner(), devicePixelRatioF());
 }
 
 void ImageView::paintEvent(QPaintEvent*) {

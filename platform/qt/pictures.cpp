@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QImageReader>
 #include <QPainter>
+#include <QThreadPool>
 #include <map>
+#include <memory>
 
 #include "platform/qt/files.h"
 
@@ -49,13 +51,13 @@ QImage Decode(const QString& path) {
     return Decode(std::move(reader));
 }
 
-QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
+QImage Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
     // Smooth scaling is several times faster in this format than in the compact one that pictures are kept
     // in.
-    const QImage stretched = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
-                                 .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage stretched = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                           .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     // A picture with see-through places has its own outline.
-    if (corner <= 0 || picture.hasAlphaChannel()) return QPixmap::fromImage(stretched);
+    if (corner <= 0 || picture.hasAlphaChannel()) return stretched;
     QImage rounded(pixels, QImage::Format_ARGB32_Premultiplied);
     rounded.fill(Qt::transparent);
     QPainter painter(&rounded);
@@ -64,7 +66,16 @@ QPixmap Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
     painter.setBrush(QBrush(stretched));
     painter.drawRoundedRect(QRectF(QPointF(), QSizeF(pixels)), corner, corner);
     painter.end();
-    return QPixmap::fromImage(rounded);
+    return rounded;
+}
+
+QString KeyOf(const std::string& path, const QSize& size, int corner, qreal ratio) {
+    return QStringLiteral("%1x%2 %3 %4 %5")
+        .arg(size.width())
+        .arg(size.height())
+        .arg(corner)
+        .arg(ratio)
+        .arg(QString::fromStdString(path));
 }
 
 }  // namespace
@@ -95,21 +106,27 @@ bool Pictures::Load(const std::string& path) {
     return true;
 }
 
+void Pictures::Prepare(const std::string& path, const QSize& size, int corner, qreal ratio) {
+    const QString key = KeyOf(path, size, corner, ratio);
+    if (path.empty() || size.isEmpty() || coming_.contains(key) || scaled_.contains(key) || !Load(path))
+        return;
+    const auto task = std::make_shared<std::packaged_task<QImage()>>(
+        [picture = decoded_.value(SystemPath(path)), pixels = (QSizeF(size) * ratio).toSize(),
+         radius = corner * ratio] { return Stretch(picture, pixels, radius); });
+    coming_[key] = task->get_future();
+    QThreadPool::globalInstance()->start([task] { (*task)(); });
+}
+
 QPixmap Pictures::Scaled(const std::string& path, const QSize& size, int corner, qreal ratio) {
-    if (path.empty() || size.isEmpty() || !Load(path)) return {};
-    const QString name = SystemPath(path);
-    const QSize pixels = (QSizeF(size) * ratio).toSize();
-    const QString key = QStringLiteral("%1x%2 %3 %4 %5")
-                            .arg(pixels.width())
-                            .arg(pixels.height())
-                            .arg(corner)
-                            .arg(ratio)
-                            .arg(name);
-    if (const auto found = scaled_.constFind(key); found != scaled_.constEnd()) return *found;
-    QPixmap pixmap = Stretch(decoded_.value(name), pixels, corner * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    scaled_.insert(key, pixmap);
-    return pixmap;
+    Prepare(path, size, corner, ratio);
+    const QString key = KeyOf(path, size, corner, ratio);
+    if (const auto coming = coming_.find(key); coming != coming_.end()) {
+        QPixmap pixmap = QPixmap::fromImage(coming->second.get());
+        pixmap.setDevicePixelRatio(ratio);
+        scaled_.insert(key, pixmap);
+        coming_.erase(coming);
+    }
+    return scaled_.value(key);
 }
 
 }  // namespace zarpel

@@ -103,6 +103,7 @@ class ImageView : public ControlView<QWidget, Image> {
     void mouseReleaseEvent(QMouseEvent*) override;
 
   private:
+    int Corner() const { return context_.Scale.Pixels(control_.Corner); }
     QPixmap Pixmap() const;
     void Drop(const QPoint& global);
 
