@@ -136,14 +136,15 @@ class Game:
     def open(self, name):
         return wait(lambda: self.named(name), f'the window "{name}"')
 
-    def answer(self, title, text="", button=None, typed=""):
-        """Waits for the box whose text begins so, types, and clicks the button or presses Enter."""
+    def answer(self, title, text="", button=None, typed="", last=False):
+        """Waits for the box whose text begins so, types, and clicks the button or presses Enter. After the last box
+        nothing more is asked over the bus: what reaches the toolkit while it ends, it does not free."""
         box = wait(self.box, f'the box "{title}: {text}"')
         assert box.name == title and box.texts()[0].startswith(text), (box.name, box.texts())
         if typed:
             xdotool("type", typed)
         click(box.find(button)) if button else keys("Return")
-        wait(lambda: self.ended() or not self.is_open(box), f'the end of the box "{title}: {text}"')
+        wait(lambda: self.ended() or not (last or self.is_open(box)), f'the end of the box "{title}: {text}"')
 
     def is_open(self, box):
         now = self.box()

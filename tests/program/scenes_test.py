@@ -45,7 +45,7 @@ def waiting(program):
 
 
 def leaves_with_chau(running):
-    running.answer("Zarpel", "CHAU!")
+    running.answer("Zarpel", "CHAU!", last=True)
     assert running.process.wait(10) == 0
 
 
