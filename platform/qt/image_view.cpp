@@ -15,15 +15,17 @@ void ImageView::Sync() {
         setAccessibleDescription(QString::fromStdString(spoken.Description));
     }
     for (ImageView* const covered : covered_) covered->Sync();
-    if (Shown()) context_.Pictures.Prepare(control_.Picture, size(), Corner(), devicePixelRatioF());
+    if (Shown()) context_.Pictures.Prepare(LookNow());
     update();
 }
 
 bool ImageView::Shown() const { return control_.Visible && !(control_.Cover && control_.Cover->Visible); }
 
-QPixmap ImageView::Pixmap() const {
-    return context_.Pictures.Scaled(control_.Picture, size(), Corner(), devicePixelRatioF());
+Look ImageView::LookNow() const {
+    return {control_.Picture, width(), height(), context_.Scale.Pixels(control_.Corner), devicePixelRatioF()};
 }
+
+QPixmap ImageView::Pixmap() const { return context_.Pictures.Scaled(LookNow()); }
 
 void ImageView::paintEvent(QPaintEvent*) {
     if (dragged_) return;  // the card is under the pointer

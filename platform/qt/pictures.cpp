@@ -69,15 +69,6 @@ QImage Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
     return rounded;
 }
 
-QString KeyOf(const std::string& path, const QSize& size, int corner, qreal ratio) {
-    return QStringLiteral("%1x%2 %3 %4 %5")
-        .arg(size.width())
-        .arg(size.height())
-        .arg(corner)
-        .arg(ratio)
-        .arg(QString::fromStdString(path));
-}
-
 }  // namespace
 
 QImage BuiltInPicture(const QString& picture, int pixels) {
@@ -106,27 +97,27 @@ bool Pictures::Load(const std::string& path) {
     return true;
 }
 
-void Pictures::Prepare(const std::string& path, const QSize& size, int corner, qreal ratio) {
-    const QString key = KeyOf(path, size, corner, ratio);
-    if (path.empty() || size.isEmpty() || coming_.contains(key) || scaled_.contains(key) || !Load(path))
-        return;
+void Pictures::Prepare(const Look& look) {
+    const QSize size(look.Width, look.Height);
+    if (look.Path.empty() || size.isEmpty() || coming_.contains(look) || scaled_.contains(look)) return;
+    if (!Load(look.Path)) return;
     const auto task = std::make_shared<std::packaged_task<QImage()>>(
-        [picture = decoded_.value(SystemPath(path)), pixels = (QSizeF(size) * ratio).toSize(),
-         radius = corner * ratio] { return Stretch(picture, pixels, radius); });
-    coming_[key] = task->get_future();
+        [picture = decoded_.value(SystemPath(look.Path)), pixels = (QSizeF(size) * look.Ratio).toSize(),
+         radius = look.Corner * look.Ratio] { return Stretch(picture, pixels, radius); });
+    coming_[look] = task->get_future();
     QThreadPool::globalInstance()->start([task] { (*task)(); });
 }
 
-QPixmap Pictures::Scaled(const std::string& path, const QSize& size, int corner, qreal ratio) {
-    Prepare(path, size, corner, ratio);
-    const QString key = KeyOf(path, size, corner, ratio);
-    if (const auto coming = coming_.find(key); coming != coming_.end()) {
+QPixmap Pictures::Scaled(const Look& look) {
+    Prepare(look);
+    if (const auto coming = coming_.find(look); coming != coming_.end()) {
         QPixmap pixmap = QPixmap::fromImage(coming->second.get());
-        pixmap.setDevicePixelRatio(ratio);
-        scaled_.insert(key, pixmap);
+        pixmap.setDevicePixelRatio(look.Ratio);
+        scaled_[look] = pixmap;
         coming_.erase(coming);
     }
-    return scaled_.value(key);
+    const auto found = scaled_.find(look);
+    return found == scaled_.end() ? QPixmap() : found->second;
 }
 
 }  // namespace zarpel

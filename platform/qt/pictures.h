@@ -6,11 +6,11 @@
 #include <QIcon>
 #include <QImage>
 #include <QPixmap>
-#include <QSize>
 #include <QString>
 #include <future>
 #include <map>
 #include <string>
+#include <tuple>
 
 namespace zarpel {
 
@@ -21,22 +21,34 @@ QImage BuiltInPicture(const QString& picture, int pixels);
 
 QIcon ProgramIcon();
 
+// How a picture is shown: stretched to this size, with corners of this radius (logical pixels), on a screen
+// of so many pixels to a logical pixel.
+struct Look {
+    std::string Path;
+    int Width, Height, Corner;
+    qreal Ratio;
+
+    bool operator<(const Look& other) const {
+        return std::tie(Path, Width, Height, Corner, Ratio) <
+               std::tie(other.Path, other.Width, other.Height, other.Corner, other.Ratio);
+    }
+};
+
 class Pictures {
   public:
     // Reads the file, or the built-in picture of a path that begins with ":/". False: no picture there.
     bool Load(const std::string& path);
 
     // Begins what Scaled will be asked for.
-    void Prepare(const std::string& path, const QSize& size, int corner, qreal ratio);
+    void Prepare(const Look& look);
 
-    // The picture stretched to `size` (logical pixels) with corners of this radius, for a screen of so many
-    // pixels to a logical pixel. A null pixmap when Load did not take the path.
-    QPixmap Scaled(const std::string& path, const QSize& size, int corner, qreal ratio);
+    // The picture as it is to look. A null pixmap when Load did not take the path.
+    QPixmap Scaled(const Look& look);
 
   private:
     QHash<QString, QImage> decoded_;
-    std::map<QString, std::future<QImage>> coming_;  // by the same key as scaled_, until they are asked for
-    QHash<QString, QPixmap> scaled_;
+    std::map<Look, std::future<QImage>> coming_;  // until they are asked for
+    std::map<Look, QPixmap> scaled_;
 };
 
 }  // namespace zarpel

@@ -11,6 +11,14 @@
 #include "platform/qt/fonts.h"
 
 namespace zarpel {
+namespace {
+
+// A release outside the widget takes the click back.
+bool EndsClick(const QMouseEvent& release, const QWidget& widget) {
+    return release.button() == Qt::LeftButton && widget.rect().contains(release.position().toPoint());
+}
+
+}  // namespace
 
 // --- Labels ---
 
@@ -93,9 +101,7 @@ void LabelView::keyPressEvent(QKeyEvent* event) {
 }
 
 void LabelView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-        Press();
-    }
+    if (EndsClick(*event, *this)) Press();
 }
 
 // --- Buttons ---
@@ -163,9 +169,7 @@ void FrameView::paintEvent(QPaintEvent*) {
 }
 
 void FrameView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-        Raise(control_.Click);
-    }
+    if (EndsClick(*event, *this)) Raise(control_.Click);
 }
 
 LineView::LineView(Line& line, const ViewContext& context, QWidget* parent)

@@ -103,7 +103,7 @@ class ImageView : public ControlView<QWidget, Image> {
     void mouseReleaseEvent(QMouseEvent*) override;
 
   private:
-    int Corner() const { return context_.Scale.Pixels(control_.Corner); }
+    Look LookNow() const;
     QPixmap Pixmap() const;
     void Drop(const QPoint& global);
 

@@ -62,10 +62,11 @@ TEST(PictureFiles, AreReadOnceAndScaledCrisply) {
     }
     ASSERT_TRUE(pictures.Load(path("good.png")));
     ASSERT_TRUE(QFile::remove(folder.filePath("good.png")));
-    const QPixmap crisp = pictures.Scaled(path("good.png"), {97, 134}, 6, 2);
+    const Look look = {path("good.png"), 97, 134, 6, 2};
+    const QPixmap crisp = pictures.Scaled(look);
     EXPECT_EQ(crisp.size(), QSize(194, 268));
     EXPECT_EQ(crisp.deviceIndependentSize(), QSizeF(97, 134));
-    EXPECT_EQ(crisp.cacheKey(), pictures.Scaled(path("good.png"), {97, 134}, 6, 2).cacheKey());
+    EXPECT_EQ(crisp.cacheKey(), pictures.Scaled(look).cacheKey());
 }
 
 }  // namespace
