@@ -58,7 +58,8 @@ TEST(Puntos, ADealIsShownThenScoredAndFifteenEndTheMatch) {
                   &r.velop1lbl, &r.velop2lbl, &r.zarpelp1lbl, &r.zarpelp2lbl}) {
                 figures += label->Caption.get() + " ";
             }
-            EXPECT_EQ(r.Label2.Caption.get() + points(), "Ana0-0");  // not added yet
+            EXPECT_EQ(r.Label1.Caption.get() + r.Label2.Caption.get(), "PLAYER CPUAna");
+            EXPECT_EQ(points(), "0-0");  // not added yet
             EXPECT_EQ(table.TakeCaptions().back(), "Esta es la ultima mano");
             EXPECT_EQ(table.Desktop.TakeCalls(),
                       (std::vector<std::string>{"pause 1500", "modal Resultados"}));
