@@ -4,10 +4,10 @@
 //
 // Usage: seal_help COMPILED SEALED
 #include <QFile>
-#include <QSaveFile>
 #include <QtEndian>
 #include <cstdio>
 
+#include "platform/qt/files.h"
 #include "platform/qt/help/help_seal.h"
 
 namespace {
@@ -33,9 +33,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     QFile in(QFile::decodeName(argv[1]));
-    QSaveFile out(QFile::decodeName(argv[2]));
-    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly)) {
-        std::fprintf(stderr, "seal_help: cannot read %s or write %s\n", argv[1], argv[2]);
+    if (!in.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "seal_help: cannot read %s\n", argv[1]);
         return 1;
     }
     QByteArray file = in.readAll();
@@ -45,8 +44,8 @@ int main(int argc, char** argv) {
     }
     file.replace(kFileTimeAt, kTimeLength, QByteArray(kTimeLength, '\0'));
     ClearSystemTime(file);
-    const QByteArray sealed = zarpel::Sealed(file);
-    if (out.write(sealed) == sealed.size() && out.flush() && out.commit()) return 0;
+    const std::string sealed = zarpel::Sealed(file).toStdString();
+    if (zarpel::ReplaceFile(QFile::decodeName(argv[2]).toStdString(), sealed)) return 0;
     std::fprintf(stderr, "seal_help: cannot write %s\n", argv[2]);
     return 1;
 }
