@@ -30,7 +30,7 @@ void Mesa::Verifica(Image& carta, CheckBox& marca, char mp) {
         PonSuma(Suma() - slot.Numero());
         slot.Bajar();
     } else if (mp == clase::kHumano && EligeHumana()) {
-        desktop_.Show({.Text = "SELECCIONE SOLO UNA DE SUS CARTAS", .Icon = Icon::Exclamation});
+        desktop_.Show({.Text = "SELECCIONE SOLO UNA DE SUS CARTAS", .Icon = BoxIcon::Exclamation});
     } else {
         Elige(slot);
     }
@@ -49,13 +49,13 @@ void Mesa::Elige(const Slot& slot) {
     slot.Marca.Value = 0;
     // The computer tries cards without a word; BajaCartasMesa lowers those that it leaves.
     if (Reparto->Turno() != 1) return;
-    desktop_.Show({.Text = "La suma es mayor que 15", .Icon = Icon::Information});
+    desktop_.Show({.Text = "La suma es mayor que 15", .Icon = BoxIcon::Information});
     slot.Bajar();
 }
 
 void Mesa::Levanta(const std::string& duenio) {
     if (Suma() != kSumaDeLevante) {
-        desktop_.Show({.Text = "Para Levantar debes sumar 15", .Icon = Icon::Information});
+        desktop_.Show({.Text = "Para Levantar debes sumar 15", .Icon = BoxIcon::Information});
         return;
     }
     if (duenio != duenios::kCpu && !EligeHumana()) {
@@ -81,7 +81,7 @@ void Mesa::SumaZarpel(const std::string& duenio) {
     for (const Image& imagen : mesaimg) {
         if (imagen.Visible) return;
     }
-    desktop_.Show({.Text = "¡¡¡ZARPEL!!!", .Icon = Icon::Exclamation});
+    desktop_.Show({.Text = "¡¡¡ZARPEL!!!", .Icon = BoxIcon::Exclamation});
     if (duenio == duenios::kCpu) {
         Reparto->aZarpelP1(static_cast<std::int16_t>(Reparto->ZarpelP1() + 1));
     } else {

@@ -3,7 +3,7 @@
 namespace zarpel {
 
 void ErrorGrave(Desktop& desktop, const std::string& texto) {
-    desktop.Show({.Text = texto, .Icon = Icon::Critical, .Title = "Error grave"});
+    desktop.Show({.Text = texto, .Icon = BoxIcon::Critical, .Title = "Error grave"});
     desktop.Show({.Text = "Reinstale el programa"});
     desktop.End(kInstalacionDanada);
 }

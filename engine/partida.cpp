@@ -113,7 +113,7 @@ void Mesa::JuegaHumano() {
     if (!TieneCartas(clase::kHumano)) return Pasa();
     if (!Bloqueado(clase::kHumano)) return;
     desktop_.Show({.Text = "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno",
-                   .Icon = Icon::Information});
+                   .Icon = BoxIcon::Information});
     Pasa();
 }
 

@@ -46,7 +46,8 @@ void Mesa::Pasa() {
 }
 
 void Mesa::AnulaReparto() {
-    desktop_.Show({.Text = "Ninguno de los dos puede jugar: se reparte de nuevo", .Icon = Icon::Information});
+    desktop_.Show(
+        {.Text = "Ninguno de los dos puede jugar: se reparte de nuevo", .Icon = BoxIcon::Information});
     SigueOtroReparto();
 }
 

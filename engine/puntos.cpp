@@ -70,15 +70,15 @@ void Mesa::CuentaPuntos() {
 
 void Mesa::DefineGanador(std::int16_t puntaje1, std::int16_t puntaje2) {
     if (puntaje1 == puntaje2) {
-        desktop_.Show({.Text = "JUEGO EMPATADO", .Icon = Icon::Exclamation});
+        desktop_.Show({.Text = "JUEGO EMPATADO", .Icon = BoxIcon::Exclamation});
     } else {
         const std::string ganador = puntaje1 > puntaje2 ? "CPU" : Naipes->Nombrejugador();
-        desktop_.Show({.Text = "GANADOR " + ganador, .Icon = Icon::Exclamation, .Title = "Final"});
+        desktop_.Show({.Text = "GANADOR " + ganador, .Icon = BoxIcon::Exclamation, .Title = "Final"});
     }
     const Answer otra = desktop_.Show({.Text = "¿Jugar de nuevo?",
-                                       .Icon = Icon::Question,
+                                       .Icon = BoxIcon::Question,
                                        .Title = "Fin de Juego",
-                                       .Buttons = Buttons::YesNo});
+                                       .Buttons = BoxButtons::YesNo});
     if (otra == Answer::No) desktop_.End(0);
     ResetGame();
 }

@@ -74,18 +74,18 @@ class Container : public Control {
     Property<ColorCode> BackColor{*this, SystemColor(kButtonFace)};
 };
 
-struct Font {
+struct FontSpec {
     std::string Family;  // as the layouts name it; empty: the system's default. The front end maps it
     double Points = 8.25;
     bool Bold = false;
 
-    bool operator==(const Font&) const = default;
+    bool operator==(const FontSpec&) const = default;
 };
 
 enum class Alignment { Left, Right, Center };
 
 // What a screen reader says of a picture.
-struct Spoken {
+struct Speech {
     std::string Name;         // what it shows
     std::string Description;  // where it is and in which state
 };
@@ -98,10 +98,10 @@ class Image : public Control {
     // Path of the picture file, once Desktop::LoadPicture has taken it; a path that begins with ":/" is one
     // of the pictures built into the program. Empty: nothing is drawn.
     Property<std::string> Picture{*this};
-    Property<int> Corner{*this};             // radius of the rounded corners
-    Property<bool> Draggable{*this};         // a drag starts when the pointer is pressed and moved on it
-    const Image* Cover = nullptr;            // while both are shown, this picture hides the control wholly
-    std::function<zarpel::Spoken()> Spoken;  // empty: decoration that a screen reader passes over
+    Property<int> Corner{*this};      // radius of the rounded corners
+    Property<bool> Draggable{*this};  // a drag starts when the pointer is pressed and moved on it
+    const Image* Cover = nullptr;     // while both are shown, this picture hides the control wholly
+    std::function<Speech()> Spoken;   // empty: decoration that a screen reader passes over
     std::function<void()> Click;
 };
 
@@ -118,7 +118,7 @@ class Label : public Control {
     void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
     Property<std::string> Caption{*this};
-    Property<zarpel::Font> Font{*this};
+    Property<FontSpec> Font{*this};
     Property<ColorCode> ForeColor{*this, SystemColor(kWindowText)};
     Property<ColorCode> BackColor{*this, SystemColor(kButtonFace)};
     Property<bool> Opaque{*this};
@@ -213,7 +213,7 @@ struct Menu {
 };
 
 // The component behind a window's file and colour choosers. It remembers what was chosen through it.
-struct CommonDialog {
+struct ChooserState {
     std::string DefaultExt;  // added to a name typed without extension
     std::string Filter;      // pairs of description and patterns, all separated by "|"
     std::string FileName;    // the name last chosen; offered again

@@ -17,15 +17,15 @@
 
 namespace zarpel {
 
-enum class Icon { None, Critical, Question, Exclamation, Information };
-enum class Buttons { Ok, YesNo };
+enum class BoxIcon { None, Critical, Question, Exclamation, Information };
+enum class BoxButtons { Ok, YesNo };
 enum class Answer { Ok, Yes, No };
 
 struct Message {
     std::string Text;
-    zarpel::Icon Icon = zarpel::Icon::None;
+    BoxIcon Icon = BoxIcon::None;
     std::string Title = {};  // empty: the application's title
-    zarpel::Buttons Buttons = Buttons::Ok;
+    BoxButtons Buttons = BoxButtons::Ok;
     Answer Preselected = Answer::Yes;  // of a Yes/No box: the button that Enter presses
 
     bool operator==(const Message&) const = default;
@@ -70,10 +70,10 @@ class Desktop {
                                  const std::string& proposed) = 0;
     // Ask for a file to open or to write (asking before one is replaced). True: the player chose one, and
     // `dialog.FileName` is its full path. False: cancelled, and `dialog` is unchanged.
-    virtual bool ShowOpen(CommonDialog& dialog) = 0;
-    virtual bool ShowSave(CommonDialog& dialog) = 0;
+    virtual bool ShowOpen(ChooserState& dialog) = 0;
+    virtual bool ShowSave(ChooserState& dialog) = 0;
     // Asks for a colour, beginning with `dialog.Color`. True: chosen, and stored there. False: cancelled.
-    virtual bool ShowColor(CommonDialog& dialog) = 0;
+    virtual bool ShowColor(ChooserState& dialog) = 0;
 
     // --- Files ---
 

@@ -15,8 +15,9 @@ void SaveFile(Desktop& desktop, const std::string& path, const Fields& fields) {
     ValueWriter file;
     for (const Field& field : fields) field.Save(file);
     if (desktop.WriteFile(path, file.Bytes())) return;
-    desktop.Show(
-        {.Text = "No se pudo guardar el archivo\n" + path, .Icon = Icon::Critical, .Title = "Hubo un error"});
+    desktop.Show({.Text = "No se pudo guardar el archivo\n" + path,
+                  .Icon = BoxIcon::Critical,
+                  .Title = "Hubo un error"});
 }
 
 bool LoadFile(Desktop& desktop, const std::string& path, const Fields& fields) {

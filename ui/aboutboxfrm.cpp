@@ -23,7 +23,7 @@ void Aboutboxfrm::Design() {
     Height = 3555;
     Draw(*this, picIcon, {360, 480, 780, 780});
     picIcon.Picture = ":/acerca.png";
-    const Font credit = {"", 12, true};
+    const FontSpec credit = {"", 12, true};
     Draw(*this,
          {{.Control = lblProductName,
            .At = {1320, 360, 4260, 765},

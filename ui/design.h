@@ -18,7 +18,7 @@ struct LabelDesign {
     Label& Control;
     Place At;
     const char* Caption = "";
-    zarpel::Font Font = {};
+    FontSpec Font = {};
     ColorCode ForeColor = SystemColor(kWindowText);
     std::optional<ColorCode> BackColor = std::nullopt;  // nothing: transparent
     Alignment Align = Alignment::Left;

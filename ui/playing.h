@@ -25,7 +25,7 @@ class Playing : public Form, public Mesa {
     Line Line1, Line2;
     ToolBar Toolbar1;  // its Tag holds the command line that "Run" starts
     StatusBar StatusBar1;
-    zarpel::CommonDialog CommonDialog;
+    ChooserState CommonDialog;
     Menu Archivomnu{"Archivo"}, Nuevomnu{"Nuevo"}, abrirmnu{"Abrir"}, guardarmnu{"Guardar"},
         nombremnu{"Nombre jugador"}, preferenciasmnu{"Preferencias"}, salir{"Salir"};
     Menu ayudafrm{"Ayuda"}, contenidosmnu{"Contenidos"}, acercamnu{"Acerca de..."};
@@ -86,7 +86,7 @@ class Playing : public Form, public Mesa {
     // Selects or deselects the card in a place of the player's reach. An event that waited while the computer
     // moved can find the place empty, and then does nothing.
     void Toca(const Slot& slot);
-    bool Confirma(const std::string& texto, Icon icono);
+    bool Confirma(const std::string& texto, BoxIcon icono);
 };
 
 }  // namespace zarpel

@@ -12,18 +12,18 @@ constexpr const char* kTerminaJuego = "Esta accion terminara con el juego actual
 
 }  // namespace
 
-bool Playing::Confirma(const std::string& texto, Icon icono) {
+bool Playing::Confirma(const std::string& texto, BoxIcon icono) {
     return desktop_.Show({.Text = texto,
                           .Icon = icono,
                           .Title = "Nuevo Jugador",
-                          .Buttons = Buttons::YesNo,
+                          .Buttons = BoxButtons::YesNo,
                           .Preselected = Answer::No}) == Answer::Yes;
 }
 
 void Playing::Nuevomnu_Click() { ResetGame(); }
 
 void Playing::abrirmnu_Click() {
-    if (!Confirma(kTerminaJuego, Icon::Exclamation)) return;
+    if (!Confirma(kTerminaJuego, BoxIcon::Exclamation)) return;
     if (desktop_.ShowOpen(CommonDialog)) CargarJuego(CommonDialog.FileName);
 }
 
@@ -32,7 +32,7 @@ void Playing::guardarmnu_Click() {
 }
 
 void Playing::nombremnu_Click() {
-    if (!Confirma(kTerminaJuego, Icon::Exclamation)) return;
+    if (!Confirma(kTerminaJuego, BoxIcon::Exclamation)) return;
     const std::string nombre = desktop_.InputBox("Ingrese su Nick Name", "Nuevo Jugador", "Humano");
     if (!nombre.empty()) {
         Naipes->aNombrejugador(nombre);
@@ -60,9 +60,10 @@ void Playing::acercamnu_Click() {
 
 void Playing::Toolbar1_ButtonClick(const std::string& key) {
     if (key == "Nuevo") {
-        if (Confirma("Esta accion terminara con el juego actual\n¿continuar?", Icon::Question)) ResetGame();
+        if (Confirma("Esta accion terminara con el juego actual\n¿continuar?", BoxIcon::Question))
+            ResetGame();
     } else if (key == "Salir") {
-        if (!Confirma("Esta accion terminara con la aplicacion\n¿continuar?", Icon::Question)) return;
+        if (!Confirma("Esta accion terminara con la aplicacion\n¿continuar?", BoxIcon::Question)) return;
         SaveProperty();
         desktop_.Unload(*this);
         desktop_.End(0);

@@ -61,7 +61,7 @@ std::string NameOfCard(int carta) {
 void Speak(const Slot& slot, const char* row, int i) {
     const std::string place = row + std::string(" ") + std::to_string(i + 1);
     slot.Imagen.Spoken = [slot, place] {
-        return Spoken{NameOfCard(slot.Carta()), place + (slot.Elegido() ? ", elegida" : "")};
+        return Speech{NameOfCard(slot.Carta()), place + (slot.Elegido() ? ", elegida" : "")};
     };
 }
 
@@ -75,8 +75,8 @@ void Playing::Design() {
     CommonDialog.Filter = "(*.zrp)|*.zrp";
     CommonDialog.Color = kBlack;  // the file name last chosen outlives the reload that opens it
 
-    const Font trebuchet = {"Trebuchet MS", 9.75, true};
-    const Font points = {"MS Sans Serif", 18};
+    const FontSpec trebuchet = {"Trebuchet MS", 9.75, true};
+    const FontSpec points = {"MS Sans Serif", 18};
     Draw(*this, {{.Control = Frame1, .At = {480, 3000, 10815, 2655}, .Border = false}});
     Frame1.BackColor = SystemColor(kButtonFace);
     Draw(*this, {{Line1, 1200, 360, 1200, 2280}, {Line2, 120, 720, 2280, 720}});
@@ -143,7 +143,7 @@ void Playing::DesignSlots() {
         over.Width = kBackWidth;
         DrawCard(*this, dorso, over, "");
         dorso.Picture = ":/dorso.jpg";
-        dorso.Spoken = [i] { return Spoken{"carta tapada", "cpu " + std::to_string(i + 1)}; };
+        dorso.Spoken = [i] { return Speech{"carta tapada", "cpu " + std::to_string(i + 1)}; };
         cpu.Imagen.Cover = &dorso;
 
         const Slot humano = SlotHumano(i);

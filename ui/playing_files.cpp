@@ -16,7 +16,7 @@ void Playing::SaveProperty() { SaveFile(desktop_, desktop_.Folder() + "\\lastpro
 void Playing::LoadProperty(const std::string& fichero) {
     if (LoadFile(desktop_, fichero, Preferencias())) return;
     desktop_.Show({.Text = "El archivo de propiedades no existe o esta dañado",
-                   .Icon = Icon::Critical,
+                   .Icon = BoxIcon::Critical,
                    .Title = "Hubo un error"});
 }
 
@@ -32,8 +32,9 @@ void Playing::CargarJuego(const std::string& filename) {
         Label2.Caption = Naipes->Nombrejugador();
         MuestraVentana();
     } else {
-        desktop_.Show(
-            {.Text = "El archivo no existe o esta dañado", .Icon = Icon::Critical, .Title = "Hubo un Error"});
+        desktop_.Show({.Text = "El archivo no existe o esta dañado",
+                       .Icon = BoxIcon::Critical,
+                       .Title = "Hubo un Error"});
         abrirmnu_Click();
     }
     // A saved match leaves the move to the player. One changed by hand can leave no move to make.

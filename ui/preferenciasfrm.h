@@ -25,7 +25,7 @@ class preferenciasfrm : public Form {
     Label Label8;                     // path of the card-back picture
     Label Label5;                     // command line of the program
     Button Command1, cmdOK, cmdCancel;
-    CommonDialog CdPref;  // chooses files; colours come from the main window's own chooser
+    ChooserState CdPref;  // chooses files; colours come from the main window's own chooser
 
     // Takes the values from the main window.
     void ValoresActuales();

@@ -8,7 +8,7 @@ namespace {
 
 constexpr ColorCode kDarkBlue = Rgb(0, 0, 128);
 
-const Font kHeading = {"Lucida Bright", 12, true};
+const FontSpec kHeading = {"Lucida Bright", 12, true};
 
 LabelDesign RowHeading(Label& label, int top, const char* caption) {
     return {.Control = label,

@@ -1,7 +1,7 @@
 // Selection and capture, as the player meets them.
 #include <gtest/gtest.h>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 
 namespace zarpel {
 namespace {
@@ -12,9 +12,9 @@ TEST(Seleccion, KeepsTheSumAndSaysWhatItRefuses) {
         std::vector<Message> Boxes;
     } cases[] = {
         {"1A1", "3", "A", {}},
-        {"12", "7", "1", {{"SELECCIONE SOLO UNA DE SUS CARTAS", Icon::Exclamation}}},
-        {"1SF", "12", "1S", {{"La suma es mayor que 15", Icon::Information}}},
-        {"1SL", "12", "1S", {{"Para Levantar debes sumar 15", Icon::Information}}},
+        {"12", "7", "1", {{"SELECCIONE SOLO UNA DE SUS CARTAS", BoxIcon::Exclamation}}},
+        {"1SF", "12", "1S", {{"La suma es mayor que 15", BoxIcon::Information}}},
+        {"1SL", "12", "1S", {{"Para Levantar debes sumar 15", BoxIcon::Information}}},
         {"DSL", "15", "SD", {{"Debes seleccionar una de tus cartas"}}},
     };
     for (const auto& c : cases) {
@@ -44,7 +44,7 @@ TEST(Captura, GivesThePlayerTheCardsAndAZarpelWhenItEmptiesTheTable) {
     EXPECT_EQ(Reparto->UltimoqLevanta(), duenios::kHumano);
     EXPECT_EQ(Reparto->ZarpelP1(), 0);
     EXPECT_EQ(Reparto->ZarpelP2(), 1);
-    EXPECT_EQ(table.Desktop.Boxes, (std::vector<Message>{{"¡¡¡ZARPEL!!!", Icon::Exclamation}}));
+    EXPECT_EQ(table.Desktop.Boxes, (std::vector<Message>{{"¡¡¡ZARPEL!!!", BoxIcon::Exclamation}}));
     EXPECT_EQ(table.Desktop.Calls.back(), "pause 1500");  // the computer waits for the box
 }
 

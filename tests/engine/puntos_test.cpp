@@ -1,7 +1,7 @@
 // The end of a deal, its count, and the end of a match.
 #include <gtest/gtest.h>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 #include "ui/resultadosfrm.h"
 
 namespace zarpel {
@@ -10,10 +10,10 @@ namespace {
 // The last three cards lie on the table until the deal ends.
 TEST(Puntos, ADealIsShownThenScoredAndFifteenEndTheMatch) {
     const std::string cpu = duenios::kCpu, humano = duenios::kHumano;
-    const Message winCpu = {"GANADOR CPU", Icon::Exclamation, "Final"};
-    const Message winHuman = {"GANADOR Ana", Icon::Exclamation, "Final"};
-    const Message draw = {"JUEGO EMPATADO", Icon::Exclamation};
-    const Message offer = {"¿Jugar de nuevo?", Icon::Question, "Fin de Juego", Buttons::YesNo};
+    const Message winCpu = {"GANADOR CPU", BoxIcon::Exclamation, "Final"};
+    const Message winHuman = {"GANADOR Ana", BoxIcon::Exclamation, "Final"};
+    const Message draw = {"JUEGO EMPATADO", BoxIcon::Exclamation};
+    const Message offer = {"¿Jugar de nuevo?", BoxIcon::Question, "Fin de Juego", BoxButtons::YesNo};
     const struct {
         int First, Last;             // the computer has won the cards of these indexes, the human the rest
         std::int16_t Zarpels[2];     // the computer's and the human's ...

@@ -1,7 +1,7 @@
 // Start, deals and turns, and what happens when somebody cannot move.
 #include <gtest/gtest.h>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 
 namespace zarpel {
 namespace {
@@ -60,7 +60,8 @@ TEST(Paso, NoTableIsEverStuck) {
         table.Lay({2, 3, 8, 9, 19, 29, 39, 18}, c.Humano, c.Cpu);
         table.GiveMoveTo(c.Mover);
         EXPECT_EQ(table.Desktop.Calls, c.Calls);
-        for (const Message& box : table.Desktop.Boxes) EXPECT_EQ(box, (Message{box.Text, Icon::Information}));
+        for (const Message& box : table.Desktop.Boxes)
+            EXPECT_EQ(box, (Message{box.Text, BoxIcon::Information}));
         EXPECT_EQ(table.TakeCaptions(), c.Captions);
         EXPECT_EQ(table.OnTable().size() == 4, c.Annulled);
         EXPECT_EQ(Reparto->ZarpelP1(), c.Annulled ? 0 : 2);

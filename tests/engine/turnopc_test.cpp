@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 
 namespace zarpel {
 namespace {

@@ -6,7 +6,7 @@
 #include <QRegularExpression>
 #include <QSet>
 
-#include "platform/qt/help/help_file.h"
+#include "qt/help/help_file.h"
 
 namespace zarpel {
 namespace {

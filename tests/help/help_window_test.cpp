@@ -1,5 +1,5 @@
 // The help window as a reader uses it, with keys, clicks and wheel.
-#include "platform/qt/help/help_window.h"
+#include "qt/help/help_window.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 #include <QWheelEvent>
 
-#include "platform/qt/help/help_browser.h"
+#include "qt/help/help_browser.h"
 
 namespace zarpel {
 namespace {

@@ -9,8 +9,8 @@
 #include <set>
 #include <stdexcept>
 
-#include "tests/support/random_player.h"
-#include "tests/support/table.h"
+#include "tools/play/random_player.h"
+#include "tools/play/table.h"
 
 using namespace zarpel;
 

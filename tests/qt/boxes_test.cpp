@@ -22,8 +22,8 @@ void Leave(QWidget& window, Qt::Key key) {
 
 TEST_F(BoxesTest, ABoxSaysWhatItWasGivenAndTakesEveryAnswer) {
     const std::string text = "Gana <b>x</b> & yo\n¿continuar?";
-    const Message ok = {.Text = text, .Icon = Icon::Critical};
-    const Message yes = {.Text = text, .Icon = Icon::Critical, .Buttons = Buttons::YesNo};
+    const Message ok = {.Text = text, .Icon = BoxIcon::Critical};
+    const Message yes = {.Text = text, .Icon = BoxIcon::Critical, .Buttons = BoxButtons::YesNo};
     Message no = yes;
     no.Preselected = Answer::No;
     const auto answer = [&](const Message& message, Qt::Key pressed) {
@@ -49,7 +49,7 @@ TEST_F(BoxesTest, ABoxSaysWhatItWasGivenAndTakesEveryAnswer) {
 
 TEST_F(BoxesTest, AMatchIsSavedUnderTheNameThatTheChooserShowsInASpanishList) {
     ASSERT_TRUE(Desktop.WriteFile(Folder.filePath("vieja.zrp").toStdString(), ""));
-    CommonDialog dialog{
+    ChooserState dialog{
         .DefaultExt = "zrp", .Filter = "(*.zrp)|*.zrp", .FileName = Folder.path().toStdString() + "\\a"};
     InBox([](QWidget& chooser) {
         const auto& list = *chooser.findChild<QTreeView*>();

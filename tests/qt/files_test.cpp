@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <csignal>
 
-#include "platform/qt/files.h"
+#include "qt/files.h"
 
 namespace zarpel {
 namespace {

@@ -1,7 +1,7 @@
 // Clicks, drags and keys, and what comes while the game is busy.
 #include <QMenuBar>
 
-#include "platform/qt/keyboard.h"
+#include "qt/keyboard.h"
 #include "tests/qt/qt_table.h"
 
 namespace zarpel {

@@ -3,8 +3,8 @@
 
 #include <QFontMetrics>
 
-#include "platform/qt/files.h"
-#include "platform/qt/fonts.h"
+#include "qt/files.h"
+#include "qt/fonts.h"
 #include "tests/qt/qt_table.h"
 
 namespace zarpel {
@@ -56,7 +56,7 @@ TEST(PictureFiles, AreReadOnceAndScaledCrisply) {
     ASSERT_TRUE(ReplaceFile(path("damaged.png"), "\x89PNG\r\n\x1a\n and no more"));
     ASSERT_EQ(mkfifo(folder.filePath("pipe.png").toLocal8Bit(), 0600), 0);
 
-    Pictures pictures;
+    PictureStore pictures;
     for (const char* const name : {"missing.png", "damaged.png", "pipe.png", ""}) {
         EXPECT_FALSE(pictures.Load(path(name))) << name;
     }

@@ -1,7 +1,7 @@
 #include "tests/qt/qt_table.h"
 
 #include "engine/classnaipe.h"
-#include "platform/qt/files.h"
+#include "qt/files.h"
 
 namespace zarpel {
 
@@ -13,12 +13,12 @@ void WritePicture(const QString& path, const QColor& color) {
 
 QColor ColorOfCard(int carta) { return {200, 6 * carta, 40}; }
 
-// The installation of the scripted desktop, with real pictures.
+// The installation, with real pictures.
 QtTable::QtTable() {
     const auto here = [this](const std::string& path) {
         return Folder.filePath(QString::fromStdString(path).section('\\', -1));
     };
-    for (const auto& [path, bytes] : ScriptedDesktop().Files) ReplaceFile(here(path).toStdString(), bytes);
+    for (const auto& [path, bytes] : InstalledDesktop().Files) ReplaceFile(here(path).toStdString(), bytes);
     for (int carta = 1; carta <= classnaipe::kCartas; ++carta) {
         WritePicture(here(CardPicture(carta)), ColorOfCard(carta));
     }

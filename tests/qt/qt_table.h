@@ -9,8 +9,8 @@
 #include <QtTest>
 #include <functional>
 
-#include "platform/qt/qt_desktop.h"
-#include "tests/support/table.h"
+#include "qt/qt_desktop.h"
+#include "tools/play/table.h"
 
 namespace zarpel {
 
@@ -55,7 +55,7 @@ class QtTable : public testing::Test {
     static void InBox(std::function<void(QWidget&)> action);
 
     QTemporaryDir Folder;
-    QuickDesktop Desktop{Folder.path().toStdString()};
+    QuickDesktop Desktop{Folder.path().toStdString(), "Zarpel"};
     Playing Game{Desktop};
 };
 

@@ -2,8 +2,8 @@
 // that play goes on.
 #include <gtest/gtest.h>
 
-#include "tests/support/random_player.h"
-#include "tests/support/table.h"
+#include "tools/play/random_player.h"
+#include "tools/play/table.h"
 
 namespace zarpel {
 namespace {
@@ -237,7 +237,7 @@ TEST(Partida, AbrirComesBackUntilAFileIsReadOrThePlayerHasEnough) {
     EXPECT_GT(std::erase_if(calls, isPause), 0U) << "a fresh match is dealt beneath";
     EXPECT_EQ(calls, (Texts{"box " + kContinue, kOpen, "box " + kDamaged, "box " + kContinue, kOpen + "mala",
                             "box " + kDamaged, "box " + kContinue, kOpen + "no está"}));
-    EXPECT_EQ(table.Desktop.Boxes.at(3), (Message{kDamaged, Icon::Critical, "Hubo un Error"}));
+    EXPECT_EQ(table.Desktop.Boxes.at(3), (Message{kDamaged, BoxIcon::Critical, "Hubo un Error"}));
     EXPECT_EQ(Saved(table), before);
 }
 
@@ -249,7 +249,7 @@ TEST(Archivos, ThatCannotBeWrittenAreReportedAndStayAsTheyWere) {
     table.Window.guardarmnu.Click();
     table.Window.SaveProperty();
     const auto box = [](const std::string& path) {
-        return Message{"No se pudo guardar el archivo\n" + path, Icon::Critical, "Hubo un error"};
+        return Message{"No se pudo guardar el archivo\n" + path, BoxIcon::Critical, "Hubo un error"};
     };
     EXPECT_EQ(table.Desktop.Boxes, (std::vector{box(kPath), box(kLastprop)}));
     EXPECT_EQ(table.Desktop.Files, files);
@@ -285,7 +285,7 @@ TEST(Preferencias, AreAskedForAtEveryMatchUntilTheyAreSaved) {
     table.Desktop.Files.erase(kLastprop);
     table.Window.Load();
     table.Window.Nuevomnu_Click();
-    const Message box = {kNoPreferences, Icon::Critical, "Hubo un error"};
+    const Message box = {kNoPreferences, BoxIcon::Critical, "Hubo un error"};
     EXPECT_EQ(table.Desktop.Boxes, (std::vector{box, box}));
     EXPECT_FALSE(table.Desktop.Files.contains(kLastprop));
     EXPECT_EQ(SavedPreferences(table), "\"\"\r\n\"Click Here\"\r\n32768\r\n-2147483633\r\n\"\"\r\n");

@@ -1,7 +1,7 @@
 // What each command of the menus and of the toolbar asks, calls and leaves behind.
 #include <gtest/gtest.h>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 #include "ui/aboutboxfrm.h"
 
 namespace zarpel {
@@ -9,8 +9,8 @@ namespace {
 
 using Do = std::function<void(Playing&)>;
 
-Message Ask(const std::string& text, Icon icon) {
-    return {text, icon, "Nuevo Jugador", Buttons::YesNo, Answer::No};
+Message Ask(const std::string& text, BoxIcon icon) {
+    return {text, icon, "Nuevo Jugador", BoxButtons::YesNo, Answer::No};
 }
 Do Tool(const char* key) {
     return [key](Playing& window) { window.Toolbar1.ButtonClick(key); };
@@ -20,16 +20,16 @@ Do Entry(Menu Playing::*entry) {
 }
 
 TEST(Comandos, AskAndCallInOrder) {
-    const Message menu = Ask("Esta accion terminara con el juego actual, continuar?", Icon::Exclamation);
-    const Message fresh = Ask("Esta accion terminara con el juego actual\n¿continuar?", Icon::Question);
-    const Message leave = Ask("Esta accion terminara con la aplicacion\n¿continuar?", Icon::Question);
+    const Message menu = Ask("Esta accion terminara con el juego actual, continuar?", BoxIcon::Exclamation);
+    const Message fresh = Ask("Esta accion terminara con el juego actual\n¿continuar?", BoxIcon::Question);
+    const Message leave = Ask("Esta accion terminara con la aplicacion\n¿continuar?", BoxIcon::Question);
     const Message farewell = {"CHAU!"};
     const std::string prompt = "input Ingrese su Nick Name|Nuevo Jugador|Humano";
     const std::string saved = "write C:\\Zarpel\\lastprop.dat", help = "help C:\\Zarpel\\ayuda.chm";
     constexpr auto kYes = Answer::Yes, kNo = Answer::No;
     enum After { kSame, kNewMatch, kClosed };
     const struct {
-        zarpel::Do Do;
+        Do Action;
         std::vector<Message> Boxes;
         Answer Pressed;
         After Then;
@@ -59,7 +59,7 @@ TEST(Comandos, AskAndCallInOrder) {
         table.Desktop.Draws = {0.0};  // the human moves first again
         table.Window.puntajeP2Lbl.Caption = "7";
         try {
-            command.Do(table.Window);
+            command.Action(table.Window);
         } catch (const ScriptedDesktop::Ended&) {
         }
         std::vector<std::string> calls = command.Calls;

@@ -1,7 +1,7 @@
 // Keys on the main window.
 #include <gtest/gtest.h>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 
 namespace zarpel {
 namespace {

@@ -1,7 +1,7 @@
 // The dialog "Opciones": what the player chooses and cancels in it, and what the main window keeps of it.
 #include <gtest/gtest.h>
 
-#include "tests/support/table.h"
+#include "tools/play/table.h"
 #include "ui/preferenciasfrm.h"
 
 namespace zarpel {

@@ -31,30 +31,17 @@ void WriteJpeg(const QString& path, const QImage& picture) {
     Write(path, opaque, "jpg", 92);
 }
 
-struct Icon {
-    const char* source;
-    const char* name;
-    std::initializer_list<int> sizes;
-};
-
-const Icon kIcons[] = {
-    {"nuevo", "nuevo", {48, 96, 192}},
-    {"run", "run", {48, 96, 192}},
-    {"salir", "salir", {48, 96, 192}},
-    {"acerca", "acerca", {48, 96, 192}},
-    {"informacion", "informacion", {32, 64, 128}},
-    {"pregunta", "pregunta", {32, 64, 128}},
-    {"aviso", "aviso", {32, 64, 128}},
-    {"error", "error", {32, 64, 128}},
-    {"zarpel-chico", "zarpel", {16, 22, 24}},
-    {"zarpel", "zarpel", {32, 48, 64, 128, 256, 512}},
-};
-
-void DrawIcons(const QString& from, const QString& to) {
-    for (const auto& [source, name, sizes] : kIcons) {
-        const auto svg = ReadAll(QString("%1/%2.svg").arg(from, source));
-        for (const int size : sizes) {
-            WritePng(QString("%1/%2-%3.png").arg(to, name).arg(size), Draw(svg, {size, size}));
+// "medidas.txt" says of each icon the folder that it goes to, its source, its name, and its sizes in pixels.
+void DrawIcons(const QString& from, const QDir& out) {
+    const QString list = QString::fromUtf8(ReadAll(from + "/medidas.txt"));
+    for (const QString& line : list.split('\n', Qt::SkipEmptyParts)) {
+        QStringList words = line.split(' ', Qt::SkipEmptyParts);
+        const QString folder = words.takeFirst(), source = words.takeFirst(), name = words.takeFirst();
+        const QByteArray svg = ReadAll(QString("%1/%2.svg").arg(from, source));
+        for (const QString& size : words) {
+            const int pixels = size.toInt();
+            WritePng(out.filePath(QString("%1/%2-%3.png").arg(folder, name, size)),
+                     Draw(svg, {pixels, pixels}));
         }
     }
 }
@@ -107,7 +94,7 @@ QByteArray CardList(const QStringList& names) {
 
 void DrawAll(const QString& dataFolder, const QString& outFolder) {
     const QDir out(outFolder);
-    for (const auto* folder : {"app", "builtin", "ayuda"}) {
+    for (const auto* folder : {"app", "builtin", "boxes", "ayuda"}) {
         if (!out.mkpath(folder))
             throw std::runtime_error((outFolder + ": cannot make the folder").toStdString());
     }
@@ -127,7 +114,7 @@ void DrawAll(const QString& dataFolder, const QString& outFolder) {
     WriteJpeg(out.filePath("app/dibujo.jpg"), Draw(back, kCardPixels));
     WriteJpeg(out.filePath("builtin/dorso.jpg"), Draw(back, kBuiltinBackPixels));
     WritePng(out.filePath("ayuda/dorso.png"), WithPalette(Draw(back, kCardPixels)));
-    DrawIcons(dataFolder + "/iconos", out.filePath("builtin"));
+    DrawIcons(dataFolder + "/iconos", out);
 }
 
 }  // namespace zarpel

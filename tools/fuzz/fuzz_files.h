@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "tests/support/random_player.h"
-#include "tests/support/scripted_desktop.h"
+#include "tools/play/installation.h"
+#include "tools/play/random_player.h"
 
 namespace zarpel {
 

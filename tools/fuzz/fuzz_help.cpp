@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "platform/qt/help/help_file.h"
+#include "qt/help/help_file.h"
 
 namespace {
 

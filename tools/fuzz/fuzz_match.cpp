@@ -16,7 +16,7 @@ bool Opens(zarpel::Playing& window, zarpel::ScriptedDesktop& desktop, const std:
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    zarpel::ScriptedDesktop desktop;
+    zarpel::InstalledDesktop desktop;
     zarpel::Playing window(desktop);
     desktop.Files["entrada"] = zarpel::BytesOf(data, size);
     if (Opens(window, desktop, "entrada")) {

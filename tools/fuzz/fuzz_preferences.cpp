@@ -4,7 +4,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string path = zarpel::PathOf("lastprop.dat");
-    zarpel::ScriptedDesktop desktop;
+    zarpel::InstalledDesktop desktop;
     zarpel::Playing window(desktop);
     desktop.Files[path] = zarpel::BytesOf(data, size);
     window.Load();

@@ -7,8 +7,8 @@
 #include <QtEndian>
 #include <cstdio>
 
-#include "platform/qt/files.h"
-#include "platform/qt/help/help_seal.h"
+#include "qt/files.h"
+#include "qt/help/help_seal.h"
 
 namespace {
 

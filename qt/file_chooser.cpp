@@ -1,0 +1,87 @@
+#include "qt/file_chooser.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QIdentityProxyModel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QRegularExpressionValidator>
+#include <QTreeView>
+
+#include "qt/files.h"
+
+namespace zarpel {
+namespace {
+
+// From pairs of description and patterns, "Text(*.a)|*.a;*.b|...", to the toolkit's "Text (*.a *.b)".
+QStringList FiltersOf(const std::string& filter) {
+    const QStringList parts = QString::fromStdString(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString text = parts[i].section('(', 0, 0).trimmed();
+        const QString patterns = QString(parts[i + 1]).replace(';', ' ').replace("*.*", "*");
+        filters.push_back(QStringLiteral("%1 (%2)").arg(text, patterns).trimmed());
+    }
+    return filters;
+}
+
+// The toolkit writes what its list says of a file in the system's language, whatever the program's is.
+class SpanishList : public QIdentityProxyModel {
+  public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        constexpr int kType = 2, kDate = 3;  // columns
+        const auto* const files = qobject_cast<QFileSystemModel*>(sourceModel());
+        if (!files || role != Qt::DisplayRole) return QIdentityProxyModel::data(index, role);
+        const QFileInfo file = files->fileInfo(mapToSource(index));
+        if (index.column() == kType)
+            return file.isDir() ? QStringLiteral("Carpeta") : QStringLiteral("Archivo");
+        if (index.column() == kDate) return QLocale().toString(file.lastModified(), QLocale::ShortFormat);
+        return QIdentityProxyModel::data(index, role);
+    }
+};
+
+// Where "/" divides a path, the toolkit takes "\" for a letter, but the game opens it as "/": the chooser
+// would ask about another file than the one replaced.
+void RefuseBackslash(const QFileDialog& chooser) {
+    auto* const name = chooser.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (!name || QDir::separator() != '/') return;
+    name->setValidator(new QRegularExpressionValidator(QRegularExpression(R"([^\\]*)"), name));
+}
+
+bool AskFile(QFileDialog& chooser, ChooserState& dialog) {
+    constexpr int kLetters = 90, kLines = 28;  // else large letters stand in a small window
+    const QFontMetrics letters = chooser.fontMetrics();
+    chooser.setOption(QFileDialog::DontUseNativeDialog);  // native ones speak the system's language
+    chooser.setProxyModel(new SpanishList(&chooser));
+    RefuseBackslash(chooser);
+    chooser.setNameFilters(FiltersOf(dialog.Filter));
+    chooser.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
+    const QFileInfo last(SystemPath(dialog.FileName));
+    chooser.setDirectory(dialog.FileName.empty() ? QDir::homePath() : last.absolutePath());
+    if (!dialog.FileName.empty()) chooser.selectFile(last.fileName());
+    if (auto* const list = chooser.findChild<QTreeView*>()) list->header()->setStretchLastSection(true);
+    chooser.resize(kLetters * letters.averageCharWidth(), kLines * letters.height());
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return false;
+    dialog.FileName = QDir::toNativeSeparators(chooser.selectedFiles().constFirst()).toStdString();
+    return true;
+}
+
+}  // namespace
+
+bool AskFileToOpen(QWidget* owner, ChooserState& dialog) {
+    QFileDialog chooser(owner, QStringLiteral("Abrir"));
+    chooser.setFileMode(QFileDialog::ExistingFile);
+    return AskFile(chooser, dialog);
+}
+
+bool AskFileToSave(QWidget* owner, ChooserState& dialog) {
+    QFileDialog chooser(owner, QStringLiteral("Guardar"));
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    return AskFile(chooser, dialog);
+}
+
+}  // namespace zarpel

@@ -1,0 +1,233 @@
+#include "qt/form_window.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <map>
+
+#include "qt/colors.h"
+#include "qt/keyboard.h"
+
+namespace zarpel {
+namespace {
+
+// How long the window manager may go on placing a new window.
+constexpr int kSettleMs = 1000;
+
+constexpr Qt::WindowFlags kDialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                         Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+
+// Makes the views of a container's controls, in stacking order.
+class Builder : public ControlVisitor {
+  public:
+    Builder(const ViewContext& context, std::vector<View*>& views) : context_(context), views_(views) {}
+
+    void Build(const Container& container, QWidget* parent) {
+        QWidget* const outer = parent_;
+        parent_ = parent;
+        for (Control* const child : container.Children) child->Accept(*this);
+        parent_ = outer;
+    }
+
+    // A covered picture is drawn again when its cover changes.
+    void JoinCovers() {
+        for (const auto& [image, view] : images_) {
+            const auto cover = images_.find(image->Cover);
+            if (cover != images_.end()) cover->second->Covers(*view);
+        }
+    }
+
+    void Visit(Image& image) override { images_[&image] = Add<ImageView>(image); }
+    void Visit(CheckBox&) override {}  // kept, not drawn
+    void Visit(Label& label) override { Add<LabelView>(label); }
+    void Visit(Button& button) override { Add<ButtonView>(button); }
+    void Visit(Line& line) override { Add<LineView>(line); }
+    void Visit(ToolBar& bar) override { Add<ToolBarView>(bar); }
+    void Visit(StatusBar& bar) override { Add<StatusBarView>(bar); }
+    void Visit(TabStrip& strip) override { Add<TabStripView>(strip); }
+    void Visit(Frame& frame) override {
+        QWidget* const view =
+            frame.Border ? static_cast<QWidget*>(Add<FrameView>(frame)) : Add<AreaView>(frame);
+        Build(frame, view);
+    }
+
+  private:
+    template <class ViewClass, class Model>
+    ViewClass* Add(Model& control) {
+        auto* const view = new ViewClass(control, context_, parent_);
+        views_.push_back(view);
+        return view;
+    }
+
+    const ViewContext& context_;
+    std::vector<View*>& views_;
+    QWidget* parent_ = nullptr;
+    std::map<const Image*, ImageView*> images_;
+};
+
+QAbstractButton* ButtonOf(QWidget* window, bool Button::*role) {
+    for (auto* const button : window->findChildren<QPushButton*>()) {
+        auto* const view = dynamic_cast<ButtonView*>(button);
+        if (view && view->Control().*role) return button;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+// --- Client area ---
+
+ClientArea::ClientArea(Form& form, const ViewContext& context, QWidget* parent)
+    : QWidget(parent), form_(form), context_(context) {
+    setAttribute(Qt::WA_OpaquePaintEvent);  // nothing needs to be painted below it
+    setMouseTracking(true);
+}
+
+void ClientArea::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ColorOf(form_.BackColor)); }
+
+void ClientArea::mouseMoveEvent(QMouseEvent* event) {
+    const QPointF at = event->position();
+    const int x = context_.Scale.Twips(at.x());
+    const int y = context_.Scale.Twips(at.y());
+    context_.Gate.Pass([this, x, y] { form_.Form_MouseMove(x, y); });
+}
+
+void ClientArea::mouseDoubleClickEvent(QMouseEvent*) {
+    context_.Gate.Pass([this] { form_.Form_DblClick(); });
+}
+
+// Resizing moves nothing but what is docked to an edge.
+void ClientArea::resizeEvent(QResizeEvent*) {
+    for (QObject* const child : children()) {
+        if (auto* const bar = dynamic_cast<StatusBarView*>(child)) bar->Sync();
+    }
+}
+
+// --- Window ---
+
+FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
+    : QWidget(owner, form.Border == FormBorder::Sizable ? Qt::Window : kDialogFlags),
+      form_(form),
+      context_(context) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    client_ = new ClientArea(form, context_, this);
+    layout->addWidget(client_, 1);
+    form.Changed = [this] {
+        setWindowTitle(QString::fromStdString(form_.Caption));
+        client_->update();
+    };
+}
+
+FormWindow::~FormWindow() { form_.Changed = nullptr; }
+
+void FormWindow::AddMenus() {
+    if (form_.Menus.empty()) return;
+    auto* const bar = new QMenuBar(this);
+    layout()->setMenuBar(bar);
+    for (const Menu* const menu : form_.Menus) {
+        QMenu* const drop = bar->addMenu(QString::fromStdString(menu->Caption));
+        for (const Menu* const entry : menu->Entries) {
+            QAction* const action = drop->addAction(QString::fromStdString(entry->Caption));
+            action->setMenuRole(QAction::NoRole);
+            connect(action, &QAction::triggered, this, [this, entry] {
+                if (entry->Click) context_.Gate.Pass(entry->Click);
+            });
+        }
+    }
+}
+
+void FormWindow::Fill() {
+    form_.Refresh();
+    AddMenus();
+    Builder builder(context_, views_);
+    builder.Build(form_, client_);
+    builder.JoinCovers();
+}
+
+void FormWindow::Sync() {
+    form_.Refresh();
+    for (View* const view : views_) {
+        view->Follow();
+        view->Sync();
+    }
+}
+
+void FormWindow::FocusFirst() {
+    if (QWidget* const button = ButtonOf(this, &Button::Default)) return button->setFocus();
+    focusNextChild();
+}
+
+void FormWindow::PlaceDialog() {
+    setFixedSize(context_.Scale.Pixels(form_.Width), context_.Scale.Pixels(form_.Height));
+    Sync();
+    if (form_.CenterOnScreen) {
+        move(screen()->geometry().topLeft() +
+             QPoint(context_.Scale.Pixels(form_.Left), context_.Scale.Pixels(form_.Top)));
+        return;
+    }
+    const QRect below = parentWidget() ? parentWidget()->window()->frameGeometry() : screen()->geometry();
+    move(below.center() - rect().center());
+}
+
+// Key preview: the window sees a key before the focused control, which gets it afterwards all the same. A key
+// that repeats because it is held down counts once, so that it cannot fill the computer's pause with moves.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Expose) FitNow();
+    if (event->type() == QEvent::WindowBlocked) {
+        for (View* const view : views_) view->LetGo();
+    }
+    if (event->type() == QEvent::KeyPress && !QApplication::activePopupWidget()) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const int code = KeyCodeOf(key);
+        const int mask = ShiftMaskOf(key.modifiers());
+        if (code != kKeyNone && !key.isAutoRepeat()) {
+            context_.Gate.Pass([this, code, mask] { form_.Form_KeyDown(code, mask); });
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+QSize FormWindow::ClientSize() const {
+    layout()->activate();
+    return client_->size();
+}
+
+void FormWindow::FitNow() {
+    if (!Fit || !windowHandle()->isExposed() || settled_.hasExpired()) return;
+    if (settled_.isForever()) settled_.setRemainingTime(kSettleMs);
+    Fit();
+    setUpdatesEnabled(true);
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    if (windowHandle()) FitNow();
+}
+
+// Keys reach the native window first; it exists only once the widget is shown.
+void FormWindow::showEvent(QShowEvent*) {
+    if (Fit && settled_.isForever()) setUpdatesEnabled(false);
+    windowHandle()->installEventFilter(this);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    context_.Gate.Pass([this] { form_.Form_QueryClose(); });
+}
+
+// Enter and Escape press the default and the cancel button.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool escape = event->key() == Qt::Key_Escape;
+    if (!enter && !escape) return QWidget::keyPressEvent(event);
+    QAbstractButton* const button = ButtonOf(this, enter ? &Button::Default : &Button::Cancel);
+    if (button) button->click();
+}
+
+}  // namespace zarpel

@@ -1,0 +1,71 @@
+// The window on the screen that shows one form of the game.
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include "platform/form.h"
+#include "qt/views.h"
+
+namespace zarpel {
+
+// The form's client area: its background, and what the pointer does there.
+class ClientArea : public QWidget {
+  public:
+    ClientArea(Form& form, const ViewContext& context, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+  private:
+    Form& form_;
+    const ViewContext& context_;
+};
+
+class FormWindow : public QWidget {
+  public:
+    // An empty window, not shown yet. `owner` is the window above which a dialog stands, or null.
+    FormWindow(Form& form, const ViewContext& context, QWidget* owner);
+    ~FormWindow() override;
+
+    // Makes the widgets of the form's controls. The window can be on its way to the screen meanwhile.
+    void Fill();
+    // Called when the room that the window manager gives the window becomes known: when the window reaches
+    // the screen, and at each change within the next second. Nothing is painted before the first call.
+    std::function<void()> Fit;
+
+    // Brings every widget into step with its control; needed when the scale has changed.
+    void Sync();
+    // Gives a dialog the size of its form, and its place.
+    void PlaceDialog();
+
+    // Gives the focus to the default button, or else to the first control that takes it.
+    void FocusFirst();
+
+    // Size of the client area, with the menu bar in its present font.
+    QSize ClientSize() const;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+  private:
+    void AddMenus();
+    void FitNow();
+
+    Form& form_;
+    const ViewContext context_;  // the views refer to it
+    ClientArea* client_;
+    QDeadlineTimer settled_{QDeadlineTimer::Forever};
+    std::vector<View*> views_;  // children of the window, which owns them
+};
+
+}  // namespace zarpel

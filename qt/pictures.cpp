@@ -1,0 +1,123 @@
+#include "qt/pictures.h"
+
+#include <QBrush>
+#include <QDir>
+#include <QImageReader>
+#include <QPainter>
+#include <QThreadPool>
+#include <map>
+#include <memory>
+
+#include "qt/files.h"
+
+namespace zarpel {
+namespace {
+
+// No card on any screen is larger. A photograph chosen as card back is made smaller while it is decoded.
+constexpr QSize kLargest(1024, 1024);
+
+// All sizes of the icon go to the window manager at once, and none shows a larger one.
+constexpr int kLargestIcon = 256;
+
+// The files of a built-in picture that comes in several sizes, by size.
+std::map<int, QString> SizesOf(const QString& picture) {
+    std::map<int, QString> files;
+    const QStringList names =
+        QDir(QStringLiteral(":/"))
+            .entryList({QFileInfo(picture).baseName() + QStringLiteral("-*.png")}, QDir::Files);
+    for (const QString& name : names) {
+        files[QFileInfo(name).baseName().section('-', -1).toInt()] = QStringLiteral(":/") + name;
+    }
+    return files;
+}
+
+QImage Decode(QImageReader&& reader) {
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.width() > kLargest.width() || size.height() > kLargest.height()) {
+        reader.setScaledSize(size.scaled(kLargest, Qt::KeepAspectRatio));
+    }
+    return reader.read();
+}
+
+// A file is taken for what its name says, and only if it is not that, for what it holds: looking into it
+// loads every picture format that the system has, which takes longer than all the cards.
+QImage Decode(const QString& path) {
+    if (!IsRegularFile(path)) return {};
+    QImage picture = Decode(QImageReader(path, QFileInfo(path).suffix().toLatin1()));
+    if (!picture.isNull()) return picture;
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    return Decode(std::move(reader));
+}
+
+QImage Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
+    // Smooth scaling is several times faster in this format than in the compact one that pictures are kept
+    // in.
+    QImage stretched = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                           .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // A picture with see-through places has its own outline.
+    if (corner <= 0 || picture.hasAlphaChannel()) return stretched;
+    QImage rounded(pixels, QImage::Format_ARGB32_Premultiplied);
+    rounded.fill(Qt::transparent);
+    QPainter painter(&rounded);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(stretched));
+    painter.drawRoundedRect(QRectF(QPointF(), QSizeF(pixels)), corner, corner);
+    painter.end();
+    return rounded;
+}
+
+}  // namespace
+
+QImage BuiltInPicture(const QString& picture, int pixels) {
+    const std::map<int, QString> files = SizesOf(picture);
+    if (files.empty()) return {};
+    const auto enough = files.lower_bound(pixels);
+    return Decode(enough == files.end() ? files.rbegin()->second : enough->second);
+}
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const auto& [size, file] : SizesOf(QStringLiteral(":/zarpel.png"))) {
+        if (size <= kLargestIcon) icon.addFile(file);
+    }
+    return icon;
+}
+
+bool PictureStore::Load(const std::string& path) {
+    const QString name = SystemPath(path);
+    if (decoded_.contains(name)) return true;
+    QImage picture = Decode(name);
+    if (picture.isNull() && name.startsWith(QStringLiteral(":/")))
+        picture = BuiltInPicture(name, kLargest.width());
+    if (picture.isNull()) return false;
+    decoded_.insert(name, picture);
+    return true;
+}
+
+void PictureStore::Prepare(const Look& look) {
+    const QSize size(look.Width, look.Height);
+    if (look.Path.empty() || size.isEmpty() || coming_.contains(look) || scaled_.contains(look)) return;
+    if (!Load(look.Path)) return;
+    const auto task = std::make_shared<std::packaged_task<QImage()>>(
+        [picture = decoded_.value(SystemPath(look.Path)), pixels = (QSizeF(size) * look.Ratio).toSize(),
+         radius = look.Corner * look.Ratio] { return Stretch(picture, pixels, radius); });
+    coming_[look] = task->get_future();
+    QThreadPool::globalInstance()->start([task] { (*task)(); });
+}
+
+QPixmap PictureStore::Scaled(const Look& look) {
+    Prepare(look);
+    if (const auto coming = coming_.find(look); coming != coming_.end()) {
+        QPixmap pixmap = QPixmap::fromImage(coming->second.get());
+        pixmap.setDevicePixelRatio(look.Ratio);
+        scaled_[look] = pixmap;
+        coming_.erase(coming);
+    }
+    const auto found = scaled_.find(look);
+    return found == scaled_.end() ? QPixmap() : found->second;
+}
+
+}  // namespace zarpel

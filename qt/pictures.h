@@ -1,0 +1,54 @@
+// The pictures of the game: each file is decoded once, scaled once per size, and kept. Scaling goes on beside
+// the rest of the program, since the first sight of the table waits for ten cards.
+#pragma once
+
+#include <QHash>
+#include <QIcon>
+#include <QImage>
+#include <QPixmap>
+#include <QString>
+#include <future>
+#include <map>
+#include <string>
+#include <tuple>
+
+namespace zarpel {
+
+// A built-in picture that was drawn in several sizes (":/nuevo.png" stands for all files
+// ":/nuevo-<size>.png"): the smallest that has so many pixels across, or the largest there is. Null: there is
+// no such picture.
+QImage BuiltInPicture(const QString& picture, int pixels);
+
+QIcon ProgramIcon();
+
+// How a picture is shown: stretched to this size, with corners of this radius (logical pixels), on a screen
+// of so many pixels to a logical pixel.
+struct Look {
+    std::string Path;
+    int Width, Height, Corner;
+    qreal Ratio;
+
+    bool operator<(const Look& other) const {
+        return std::tie(Path, Width, Height, Corner, Ratio) <
+               std::tie(other.Path, other.Width, other.Height, other.Corner, other.Ratio);
+    }
+};
+
+class PictureStore {
+  public:
+    // Reads the file, or the built-in picture of a path that begins with ":/". False: no picture there.
+    bool Load(const std::string& path);
+
+    // Begins what Scaled will be asked for.
+    void Prepare(const Look& look);
+
+    // The picture as it is to look. A null pixmap when Load did not take the path.
+    QPixmap Scaled(const Look& look);
+
+  private:
+    QHash<QString, QImage> decoded_;
+    std::map<Look, std::future<QImage>> coming_;  // until they are asked for
+    std::map<Look, QPixmap> scaled_;
+};
+
+}  // namespace zarpel

@@ -1,0 +1,198 @@
+#include "qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QLocale>
+#include <QScreen>
+#include <QStyle>
+#include <QTimer>
+#include <QTranslator>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+
+#include "qt/accessibility.h"
+#include "qt/dialogs.h"
+#include "qt/file_chooser.h"
+#include "qt/files.h"
+#include "qt/fonts.h"
+#include "qt/help/help_window.h"
+#include "qt/launcher.h"
+
+namespace zarpel {
+namespace {
+
+// Milliseconds after the start at which the program does what its first picture can do without.
+constexpr int kLaterMs = 300;
+
+// Acts once, from the event loop, so many milliseconds from now, unless the receiver is gone by then. Not
+// QTimer::singleShot, whose timer the leak check takes for lost when the program ends first.
+template <class Action>
+void After(int milliseconds, QObject* receiver, Action action) {
+    auto* const timer = new QTimer(receiver);
+    timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer);
+    QObject::connect(timer, &QTimer::timeout, receiver, action);
+    QObject::connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(milliseconds);
+}
+
+// The texts of the toolkit's own dialogs; the game's boxes bring theirs.
+void SpeakSpanish() {
+    auto* const translator = new QTranslator(qApp);
+    if (translator->load(QStringLiteral(":/qtbase_es.qm"))) QApplication::installTranslator(translator);
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(std::string folder, std::string title)
+    : folder_(std::move(folder)), title_(std::move(title)), style_(new ScaledStyle) {
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    QApplication::setStyle(style_);
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
+    InstallAccessibility();
+    UseScale(QApplication::primaryScreen()->availableSize());
+}
+
+QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::Leave(int status) { std::_Exit(status); }
+
+// --- Windows ---
+
+FormWindow* QtDesktop::WindowOf(const Form& form) const {
+    const auto found = std::find_if(opened_.begin(), opened_.end(),
+                                    [&form](const Opened& opened) { return opened.Shown == &form; });
+    return found == opened_.end() ? nullptr : found->Window.get();
+}
+
+QWidget* QtDesktop::TopWindow() const { return opened_.empty() ? nullptr : opened_.back().Window.get(); }
+
+FormWindow& QtDesktop::Open(Form& form, std::function<void()> unloaded) {
+    auto window =
+        std::make_unique<FormWindow>(form, ViewContext{scale_, pictures_, GateOf(form)}, TopWindow());
+    opened_.push_back({&form, std::move(window), std::move(unloaded)});
+    return *opened_.back().Window;
+}
+
+void QtDesktop::Show(Form& form) {
+    if (WindowOf(form)) return;
+    // Not at once: the handler that unloads the form is still running, perhaps before the program's event
+    // loop.
+    const auto leave = [this, &form] {
+        Forget(form);
+        QApplication::quit();
+    };
+    ShowMaximised(
+        Open(form, [this, &form, leave] { GateOf(form).Idle = [leave] { After(0, qApp, leave); }; }));
+}
+
+// The scale depends on the room that the maximised window really has, under its title and menu bar. The
+// table's widgets are made, and the game goes on to deal, while the window is on its way.
+void QtDesktop::ShowMaximised(FormWindow& window) {
+    window.Fit = [this, &window] {
+        UseScale(window.ClientSize());
+        UseScale(window.ClientSize());  // the menu bar has the font of the first
+        window.Sync();
+    };
+    window.setGeometry(window.screen()->availableGeometry());
+    window.showMaximized();
+    window.Fill();
+    window.FocusFirst();
+    After(kLaterMs, &window, [] {
+        SpeakSpanish();
+        QApplication::setWindowIcon(ProgramIcon());
+    });
+}
+
+void QtDesktop::UseScale(const QSize& client) {
+    scale_.FitTo(client);
+    style_->Use(scale_);
+    const QFont font = FontOf({}, scale_);
+    if (font != QApplication::font()) QApplication::setFont(font);
+}
+
+void QtDesktop::ShowModal(Form& form) {
+    QEventLoop loop;
+    FormWindow& window = Open(form, [&loop] { loop.quit(); });
+    window.setWindowModality(Qt::ApplicationModal);
+    window.Fill();
+    window.PlaceDialog();
+    window.show();
+    window.FocusFirst();
+    loop.exec();
+    Forget(form);
+}
+
+void QtDesktop::Forget(const Form& form) {
+    std::erase_if(opened_, [&form](const Opened& opened) { return opened.Shown == &form; });
+    gates_.erase(&form);
+}
+
+void QtDesktop::Unload(Form& form) {
+    const auto found = std::find_if(opened_.begin(), opened_.end(),
+                                    [&form](const Opened& opened) { return opened.Shown == &form; });
+    if (found == opened_.end()) return;
+    GateOf(form).Close();
+    found->Window->hide();
+    found->Unloaded();
+}
+
+Place QtDesktop::Screen() const {
+    const QScreen* const screen = opened_.empty() ? QApplication::primaryScreen() : TopWindow()->screen();
+    const QSize size = screen->size();
+    return {0, 0, scale_.Twips(size.width()), scale_.Twips(size.height())};
+}
+
+// --- Boxes and choosers ---
+
+Answer QtDesktop::Show(const Message& message) { return ShowMessage(TopWindow(), message, Title()); }
+
+std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
+                                const std::string& proposed) {
+    return AskText(TopWindow(), prompt, title, proposed);
+}
+
+bool QtDesktop::ShowOpen(ChooserState& dialog) { return AskFileToOpen(TopWindow(), dialog); }
+bool QtDesktop::ShowSave(ChooserState& dialog) { return AskFileToSave(TopWindow(), dialog); }
+bool QtDesktop::ShowColor(ChooserState& dialog) { return AskColor(TopWindow(), dialog); }
+
+// --- Files ---
+
+std::optional<std::string> QtDesktop::ReadFile(const std::string& path, std::size_t limit) {
+    return ReadWholeFile(path, limit);
+}
+
+bool QtDesktop::WriteFile(const std::string& path, const std::string& bytes) {
+    return ReplaceFile(path, bytes);
+}
+
+// --- Time and chance ---
+
+// The toolkit keeps the player's input back and delivers it, in order, once the loop has ended.
+void QtDesktop::Pause(int milliseconds) {
+    QEventLoop loop;
+    After(milliseconds, &loop, [&loop] { loop.quit(); });
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+// The last draw goes into the seed, so that two seeds taken within one clock tick differ.
+void QtDesktop::Randomize() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+    generator_.seed(static_cast<std::uint64_t>(now) ^ generator_());
+}
+
+double QtDesktop::Rnd() { return std::generate_canonical<double, 53>(generator_); }
+
+// --- Other programs ---
+
+void QtDesktop::OpenHelp(const std::string& path) {
+    if (!help_) help_ = std::make_unique<HelpWindow>(SystemPath(path));
+    help_->Present();
+}
+
+void QtDesktop::Run(const std::string& commandLine) { Launch(commandLine); }
+
+}  // namespace zarpel

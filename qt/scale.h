@@ -1,0 +1,50 @@
+// Twips to pixels: one factor for every window of the program.
+#pragma once
+
+#include <QRect>
+#include <QSize>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/controls.h"
+
+namespace zarpel {
+
+// The part of the main window that every screen must show, in twips.
+constexpr int kTableWidth = 12000;
+constexpr int kTableHeight = 8400;
+constexpr double kTwipsPerPixel = 15;  // at 96 dots an inch
+constexpr double kTwipsPerPoint = 20;
+
+class TableScale {
+  public:
+    // The largest factor at which the table fits into a client area of this size (logical pixels), but never
+    // less than one pixel for 15 twips.
+    void FitTo(const QSize& client) {
+        factor_ = std::max(1 / kTwipsPerPixel, std::min(double(client.width()) / kTableWidth,
+                                                        double(client.height()) / kTableHeight));
+    }
+
+    // Logical pixels of so many twips, and back.
+    int Pixels(double twips) const { return static_cast<int>(std::lround(twips * factor_)); }
+    int Twips(double pixels) const { return static_cast<int>(std::lround(pixels / factor_)); }
+
+    // Edges are rounded, not sizes, so that what touches in twips touches in pixels.
+    QRect Pixels(const Place& place) const {
+        const int left = Pixels(place.Left);
+        const int top = Pixels(place.Top);
+        return {left, top, Pixels(place.Left + place.Width) - left, Pixels(place.Top + place.Height) - top};
+    }
+
+    // Size in pixels of a picture drawn for 96 dots an inch.
+    int Enlarged(int pixels) const { return Pixels(pixels * kTwipsPerPixel); }
+
+  private:
+    double factor_ = 1 / kTwipsPerPixel;
+};
+
+inline Place PlaceOf(const Control& control) {
+    return {control.Left, control.Top, control.Width, control.Height};
+}
+
+}  // namespace zarpel

@@ -1,0 +1,54 @@
+#include "qt/scaled_style.h"
+
+#include <QStyleFactory>
+#include <QWidget>
+
+#include "qt/pictures.h"
+
+namespace zarpel {
+namespace {
+
+const char* BoxPicture(QStyle::StandardPixmap icon) {
+    switch (icon) {
+        case QStyle::SP_MessageBoxInformation:
+            return ":/informacion.png";
+        case QStyle::SP_MessageBoxQuestion:
+            return ":/pregunta.png";
+        case QStyle::SP_MessageBoxWarning:
+            return ":/aviso.png";
+        case QStyle::SP_MessageBoxCritical:
+            return ":/error.png";
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace
+
+ScaledStyle::ScaledStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+// Zero and less are no sizes: they mean "none" or "as the style thinks fit".
+int ScaledStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
+    return pixels > 0 ? scale_.Enlarged(pixels) : pixels;
+}
+
+QIcon ScaledStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const {
+    const char* const picture = BoxPicture(icon);
+    if (!picture) return QProxyStyle::standardIcon(icon, option, widget);
+    const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
+    const int pixels = qCeil(pixelMetric(PM_MessageBoxIconSize, option, widget) * ratio);
+    return QPixmap::fromImage(BuiltInPicture(picture, pixels));
+}
+
+// The base style adds gaps of fixed size to the entries of menus; what is missing of them is added here.
+QSize ScaledStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                    const QWidget* widget) const {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type != CT_MenuItem && type != CT_MenuBarItem) return size;
+    const QSize gaps(type == CT_MenuItem ? 24 : 8, 6);
+    return size + QSize(scale_.Enlarged(gaps.width()), scale_.Enlarged(gaps.height())) - gaps;
+}
+
+}  // namespace zarpel
