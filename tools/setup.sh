@@ -1,10 +1,10 @@
 # Steps shared by run, test and .ci/run; sourced by them, from the project's folder. Each step that is done already is
 # skipped.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libchm-dev fp-utils libgtest-dev)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libchm-dev fp-utils)
 # The fonts that the windows' fonts are mapped to: a bare system has none.
 game_packages=(fonts-liberation fonts-dejavu-core fonts-urw-base35)
-test_packages=(xvfb openbox xdotool dbus at-spi2-core python3-pyatspi xauth)
+test_packages=(libgtest-dev xvfb openbox xdotool dbus at-spi2-core python3-pyatspi xauth)
 check_packages=(git clang clang-format clang-tidy libclang-rt-14-dev)
 
 # Installs those of the named packages that are missing.
@@ -27,8 +27,13 @@ need() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
 }
 
-# Configures and builds a CMake preset.
+# build PRESET game: the game alone, which needs no test library. build PRESET all: the tests, too.
+# Configures the preset the first time, when the presets were edited since, and when the tests come in.
 build() {
-    [ -f "build/$1/build.ninja" ] || cmake --preset "$1"
-    cmake --build "build/$1"
+    local cache=build/$1/CMakeCache.txt tests=OFF
+    [ "$2" = game ] || tests=ON
+    if [ ! "build/$1/build.ninja" -nt CMakePresets.json ] || ! grep -q "^BUILD_TESTING:.*=\(ON\|$tests\)" "$cache"; then
+        cmake --preset "$1" -DBUILD_TESTING=$tests
+    fi
+    cmake --build "build/$1" --target "$2"
 }

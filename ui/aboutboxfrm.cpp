@@ -1,6 +1,7 @@
 #include "ui/aboutboxfrm.h"
 
 #include "ui/design.h"
+#include "ui/version.h"
 
 namespace zarpel {
 namespace {
@@ -33,7 +34,7 @@ void Aboutboxfrm::Design() {
            .MaxWidth = 4500},
           {.Control = lblVersion,
            .At = {5175, 1200, 390, 300},
-           .Caption = "1.0",
+           .Caption = kVersion,
            .Font = credit,
            .BackColor = kCream},
           {.Control = lblDescription, .At = {2460, 1440, 1245, 300}, .Caption = "Hecho por", .Font = credit},

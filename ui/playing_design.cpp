@@ -5,6 +5,7 @@
 #include "engine/zarpelfunc.h"
 #include "ui/design.h"
 #include "ui/playing.h"
+#include "ui/version.h"
 
 namespace zarpel {
 namespace {
@@ -116,7 +117,7 @@ void Playing::Design() {
                   .MaxWidth = 3400},
                  {.Control = Label3,
                   .At = {11160, 8040, 640, 195},
-                  .Caption = "Zarpel 1.0",
+                  .Caption = kNameAndVersion,
                   .Align = Alignment::Right,
                   .AutoSize = true}});
     cartellbl.Announced = true;
