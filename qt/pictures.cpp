@@ -2,19 +2,16 @@
 
 #include <QBrush>
 #include <QDir>
-#include <QImageReader>
 #include <QPainter>
 #include <QThreadPool>
 #include <map>
 #include <memory>
 
 #include "qt/files.h"
+#include "qt/picture_reader.h"
 
 namespace zarpel {
 namespace {
-
-// No card on any screen is larger. A photograph chosen as card back is made smaller while it is decoded.
-constexpr QSize kLargest(1024, 1024);
 
 // All sizes of the icon go to the window manager at once, and none shows a larger one.
 constexpr int kLargestIcon = 256;
@@ -29,26 +26,6 @@ std::map<int, QString> SizesOf(const QString& picture) {
         files[QFileInfo(name).baseName().section('-', -1).toInt()] = QStringLiteral(":/") + name;
     }
     return files;
-}
-
-QImage Decode(QImageReader&& reader) {
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > kLargest.width() || size.height() > kLargest.height()) {
-        reader.setScaledSize(size.scaled(kLargest, Qt::KeepAspectRatio));
-    }
-    return reader.read();
-}
-
-// A file is taken for what its name says, and only if it is not that, for what it holds: looking into it
-// loads every picture format that the system has, which takes longer than all the cards.
-QImage Decode(const QString& path) {
-    if (!IsRegularFile(path)) return {};
-    QImage picture = Decode(QImageReader(path, QFileInfo(path).suffix().toLatin1()));
-    if (!picture.isNull()) return picture;
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    return Decode(std::move(reader));
 }
 
 QImage Stretch(const QImage& picture, const QSize& pixels, qreal corner) {
@@ -75,7 +52,7 @@ QImage BuiltInPicture(const QString& picture, int pixels) {
     const std::map<int, QString> files = SizesOf(picture);
     if (files.empty()) return {};
     const auto enough = files.lower_bound(pixels);
-    return Decode(enough == files.end() ? files.rbegin()->second : enough->second);
+    return ReadPicture(enough == files.end() ? files.rbegin()->second : enough->second);
 }
 
 QIcon ProgramIcon() {
@@ -88,13 +65,14 @@ QIcon ProgramIcon() {
 
 bool PictureStore::Load(const std::string& path) {
     const QString name = SystemPath(path);
-    if (decoded_.contains(name)) return true;
-    QImage picture = Decode(name);
+    if (const auto known = decoded_.constFind(name); known != decoded_.cend()) return !known->isNull();
+    QImage picture = ReadPicture(name);
     if (picture.isNull() && name.startsWith(QStringLiteral(":/")))
-        picture = BuiltInPicture(name, kLargest.width());
-    if (picture.isNull()) return false;
+        picture = BuiltInPicture(name, kLargestPicture.width());
+    // What cannot be decoded may have taken long; a file that is missing may yet come.
+    if (picture.isNull() && !IsRegularFile(name)) return false;
     decoded_.insert(name, picture);
-    return true;
+    return !picture.isNull();
 }
 
 void PictureStore::Prepare(const Look& look) {

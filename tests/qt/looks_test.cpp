@@ -49,17 +49,46 @@ TEST_F(LooksTest, PaintsTheCardsOnTheTable) {
     EXPECT_GT(colorAt(Middle(Game.fondop1img[0])).blue(), 240);  // of the JPEG picture
 }
 
-TEST(PictureFiles, AreReadOnceAndScaledCrisply) {
+TEST(PictureFiles, AreReadByWhatTheyHoldOnceAndScaledCrisply) {
     const QTemporaryDir folder;
     const auto path = [&folder](const char* name) { return folder.path().toStdString() + "\\" + name; };
-    WritePicture(folder.filePath("good.png"), Qt::red);
-    ASSERT_TRUE(ReplaceFile(path("damaged.png"), "\x89PNG\r\n\x1a\n and no more"));
+    const auto bytesAs = [](const char* format) {
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        QImage(64, 64, QImage::Format_RGB32).save(&file, format);
+        return file.data().toStdString();
+    };
+    const std::string bmp = bytesAs("bmp"), jpeg = bytesAs("jpeg"), png = bytesAs("png");
+    const std::string huge = bmp.substr(0, 18) + std::string("\x30\x75\0\0\x30\x75\0\0", 8) + bmp.substr(26);
+    const std::string svg = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>)";
+    const std::map<const char*, std::pair<std::string, bool>> files = {
+        {"photo.txt", {jpeg, true}},      {"jpeg.bmp", {jpeg, true}},
+        {"bmp.jpg", {bmp, true}},         {"cut.jpg", {jpeg.substr(0, jpeg.size() - 40), false}},
+        {"svg.png", {svg, false}},        {"cut.bmp", {bmp.substr(0, bmp.size() / 2), false}},
+        {"svg.jpg", {svg, false}},        {"cut.png", {png.substr(0, png.size() / 2), false}},
+        {"svg.bmp", {svg, false}},        {"huge.bmp", {huge, false}},
+        {"other.gif", {"GIF89a", false}},
+    };
+    for (const auto& [name, file] : files) ASSERT_TRUE(ReplaceFile(path(name), file.first));
     ASSERT_EQ(mkfifo(folder.filePath("pipe.png").toLocal8Bit(), 0600), 0);
+    ASSERT_TRUE(QFile::link("/dev/zero", folder.filePath("device.png")));
+    ASSERT_TRUE(QFile::link(folder.filePath("pipe.png"), folder.filePath("link.png")));
+    QFile sparse(folder.filePath("sparse.png"));
+    ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(qint64{3} << 30));
 
     PictureStore pictures;
-    for (const char* const name : {"missing.png", "damaged.png", "pipe.png", ""}) {
-        EXPECT_FALSE(pictures.Load(path(name))) << name;
+    QElapsedTimer timer;
+    const auto loads = [&](const char* name) {
+        timer.start();
+        const bool loaded = pictures.Load(path(name));
+        EXPECT_LT(timer.elapsed(), 1000) << name;
+        return loaded;
+    };
+    for (const auto& [name, file] : files) EXPECT_EQ(loads(name), file.second) << name;
+    for (const char* const name : {"missing.png", "pipe.png", "link.png", "device.png", "sparse.png", ""}) {
+        EXPECT_FALSE(loads(name)) << name;
     }
+    WritePicture(folder.filePath("good.png"), Qt::red);
     ASSERT_TRUE(pictures.Load(path("good.png")));
     ASSERT_TRUE(QFile::remove(folder.filePath("good.png")));
     const Look look = {path("good.png"), 97, 134, 6, 2};
