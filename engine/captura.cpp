@@ -1,10 +1,20 @@
 // Selection of cards and capture.
+#include <algorithm>
 #include <charconv>
 
 #include "engine/mesa.h"
 #include "engine/zarpelfunc.h"
 
 namespace zarpel {
+namespace {
+
+void PonSuma(Mesa& mesa, int suma) { mesa.SumandoLbl.Tag = std::to_string(suma); }
+
+bool HayElegidaDelHumano(const Mesa& mesa) {
+    return std::ranges::any_of(mesa.SlotsMano(Jugador::Humano), &Slot::Elegido);
+}
+
+}  // namespace
 
 int Mesa::Suma() const {
     const std::string& tag = SumandoLbl.Tag;
@@ -13,23 +23,14 @@ int Mesa::Suma() const {
     return suma;
 }
 
-void Mesa::PonSuma(int suma) { SumandoLbl.Tag = std::to_string(suma); }
-
-bool Mesa::EligeHumana() {
-    for (int i = 0; i < kLugaresMano; ++i) {
-        if (SlotHumano(i).Elegido()) return true;
-    }
-    return false;
-}
-
 void Mesa::Verifica(Image& carta, CheckBox& marca, char mp) {
-    const Slot slot{carta, marca, mp};
+    const Slot slot{carta, marca, DeLetra(mp)};
     SumandoLbl.Visible = true;
     if (slot.Elegido()) {
-        marca.Value = 0;
-        PonSuma(Suma() - slot.Numero());
+        slot.Marcar(false);
+        PonSuma(*this, Suma() - slot.Numero());
         slot.Bajar();
-    } else if (mp == clase::kHumano && EligeHumana()) {
+    } else if (slot.De == Jugador::Humano && HayElegidaDelHumano(*this)) {
         desktop_.Show({.Text = "SELECCIONE SOLO UNA DE SUS CARTAS", .Icon = BoxIcon::Exclamation});
     } else {
         Elige(slot);
@@ -39,16 +40,16 @@ void Mesa::Verifica(Image& carta, CheckBox& marca, char mp) {
 
 void Mesa::Elige(const Slot& slot) {
     const int suma = Suma() + slot.Numero();
-    slot.Marca.Value = 1;
-    slot.Levantar();
+    slot.Marcar(true);
+    slot.Subir();
     if (suma <= kSumaDeLevante) {
-        PonSuma(suma);
+        PonSuma(*this, suma);
         LevantarBtn.Enabled = true;
         return;
     }
-    slot.Marca.Value = 0;
-    // The computer tries cards without a word; BajaCartasMesa lowers those that it leaves.
-    if (Reparto->Turno() != 1) return;
+    slot.Marcar(false);
+    // The computer, on its own move, tries cards without a word; BajaCartasMesa lowers those that it leaves.
+    if (Reparto->Turno() != kSignos.Cpu.Turno) return;
     desktop_.Show({.Text = "La suma es mayor que 15", .Icon = BoxIcon::Information});
     slot.Bajar();
 }
@@ -58,11 +59,15 @@ void Mesa::Levanta(const std::string& duenio) {
         desktop_.Show({.Text = "Para Levantar debes sumar 15", .Icon = BoxIcon::Information});
         return;
     }
-    if (duenio != duenios::kCpu && !EligeHumana()) {
+    if (DeDuenio(duenio) == Jugador::Humano && !HayElegidaDelHumano(*this)) {
         desktop_.Show({.Text = "Debes seleccionar una de tus cartas"});
         return;
     }
-    for (int codigo = 1; codigo <= kPosiciones; ++codigo) Entrega(SlotDePosicion(codigo), duenio);
+    for (const Slot& slot : Slots()) {
+        if (!slot.Elegido()) continue;
+        slot.Imagen.Visible = false;
+        AsignoANaipe(slot.Carta(), duenio);
+    }
     SumaZarpel(duenio);
     Reparto->aUltimoqLevanta(duenio);
     LevantarBtn.Enabled = false;
@@ -71,18 +76,10 @@ void Mesa::Levanta(const std::string& duenio) {
     DecideTurno();
 }
 
-void Mesa::Entrega(const Slot& slot, const std::string& duenio) {
-    if (!slot.Elegido()) return;
-    slot.Imagen.Visible = false;
-    AsignoANaipe(slot.Carta(), duenio);
-}
-
 void Mesa::SumaZarpel(const std::string& duenio) {
-    for (const Image& imagen : mesaimg) {
-        if (imagen.Visible) return;
-    }
+    if (std::ranges::any_of(SlotsMesa(), &Slot::Ocupado)) return;
     desktop_.Show({.Text = "¡¡¡ZARPEL!!!", .Icon = BoxIcon::Exclamation});
-    if (duenio == duenios::kCpu) {
+    if (DeDuenio(duenio) == Jugador::Cpu) {
         Reparto->aZarpelP1(static_cast<std::int16_t>(Reparto->ZarpelP1() + 1));
     } else {
         Reparto->aZarpelP2(static_cast<std::int16_t>(Reparto->ZarpelP2() + 1));
@@ -90,8 +87,8 @@ void Mesa::SumaZarpel(const std::string& duenio) {
 }
 
 void Mesa::BajaCartasMesa() {
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        if (!SlotMesa(i).Elegido()) SlotMesa(i).Bajar();
+    for (const Slot& slot : SlotsMesa()) {
+        if (!slot.Elegido()) slot.Bajar();
     }
 }
 

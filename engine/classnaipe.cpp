@@ -33,7 +33,7 @@ void classnaipe::Setnaipe(std::int16_t maxvect) {
         const int antes = i - 1;
         const std::size_t palo = std::min(static_cast<std::size_t>(antes / porPalo), kPalos.size() - 1);
         Carta(i) = {static_cast<std::int16_t>(antes % porPalo + 1), kPalos.at(palo), duenios::kNinguno,
-                    desktop_->Folder() + "\\" + LoadImage(i)};
+                    desktop_->PathOf(LoadImage(i))};
     }
 }
 

@@ -10,12 +10,10 @@
 
 namespace zarpel {
 
-// Owner tags: where a card is. A player's tag does not tell a card in the hand from a captured one.
+// Owner tags: where a card is. A player's (jugador.h) does not tell a card in the hand from a captured one.
 namespace duenios {
 inline const std::string kNinguno = "ninguno";  // in the stock
 inline const std::string kLaMesa = "lamesa";    // face up on the table
-inline const std::string kCpu = "player1";
-inline const std::string kHumano = "player2";
 }  // namespace duenios
 
 struct Naipe {

@@ -9,8 +9,12 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
+#include "engine/jugador.h"
 #include "engine/slot.h"
 #include "platform/desktop.h"
 
@@ -23,14 +27,21 @@ constexpr int kCartasEnMesa = 4;                              // laid by the fir
 constexpr int kSumaDeLevante = 15;
 constexpr int kPausaMs = 1500;  // long enough to see what happens
 
-// The count of a deal: rows cards, oros, sevens, velo and zarpels; columns computer and human.
-enum FilaCuenta { kCartasGanadas, kOros, kSietes, kVelo, kZarpels, kFilasCuenta };
-enum ColumnaCuenta { kCpu, kHumano, kColumnasCuenta };
-using Matriz = std::array<std::array<int, kColumnasCuenta>, kFilasCuenta>;
+// What a player has won in a deal.
+struct Cuenta {
+    int Cartas = 0, Oros = 0, Sietes = 0, Velo = 0, Zarpels = 0;
+};
+using Matriz = PorJugador<Cuenta>;
+
+// A capture: a place of the hand, and places of the table whose cards make 15 with the hand's card.
+struct Captura {
+    int Mano;
+    std::vector<int> Mesa;
+};
 
 class Mesa {
   public:
-    explicit Mesa(Desktop& desktop) : desktop_(desktop) {}
+    explicit Mesa(Desktop& desktop);
     virtual ~Mesa() = default;
     Mesa(const Mesa&) = delete;
     Mesa& operator=(const Mesa&) = delete;
@@ -44,12 +55,13 @@ class Mesa {
     std::array<Image, kLugaresMano> cartap2img;  // the human's hand
     std::array<CheckBox, kLugaresMano> CheckCartap2;
 
-    Slot SlotMesa(int i) { return {mesaimg.at(Pos(i)), CheckMesa.at(Pos(i)), clase::kMesa}; }
-    Slot SlotCpu(int i) { return {cartap1img.at(Pos(i)), CheckCartap1.at(Pos(i)), clase::kCpu}; }
-    Slot SlotHumano(int i) { return {cartap2img.at(Pos(i)), CheckCartap2.at(Pos(i)), clase::kHumano}; }
+    std::span<const Slot> SlotsMesa() const { return std::span(slots_).first(kLugaresMesa); }
+    std::span<const Slot> SlotsMano(Jugador quien) const;
+    // All of them, row by row.
+    std::span<const Slot> Slots() const { return slots_; }
     // The slot of a position code: 1 to 4 are table slots 0 to 3, 5 to 7 the computer's hand, 8 to 10 the
     // human's, 11 to 14 table slots 4 to 7.
-    Slot SlotDePosicion(int codigo);
+    const Slot& SlotDePosicion(int codigo) const;
 
     // --- What the engine writes ---
     Label puntajeP1Lbl, puntajeP2Lbl;  // points in the match
@@ -73,21 +85,21 @@ class Mesa {
     // Sets the owner tag of card `subind`, 1 to 40; 0, which is no card, is passed over.
     void AsignoANaipe(int subind, const std::string& aquien);
 
-    // --- Passing and annulling (paso.cpp) ---
+    // --- What a player can do (paso.cpp) ---
 
-    // True when a hand card and table cards make 15.
-    bool PuedeLevantar(char manoDe);
-    // True when the player with this kind letter has cards but can neither capture nor lay one.
-    bool Bloqueado(char manoDe);
-    bool TieneCartas(char manoDe) const;
+    bool TieneCartas(Jugador quien) const;
     bool MesaLlena() const;
+    // All captures that the player could make now.
+    std::vector<Captura> Capturas(Jugador quien) const;
+    // True when the player has cards but can neither capture nor lay one.
+    bool Bloqueado(Jugador quien) const;
 
     // --- Selection and capture (captura.cpp) ---
 
     // Selects a slot's card, or deselects it when it is selected. `mp` is the slot's kind letter. A second
     // card of the human's hand and a sum above 15 are refused; the human is told.
     void Verifica(Image& carta, CheckBox& marca, char mp);
-    void Verifica(const Slot& slot) { Verifica(slot.Imagen, slot.Marca, slot.Clase); }
+    void Verifica(const Slot& slot) { Verifica(slot.Imagen, slot.Marca, LetraDe(slot.De)); }
     // Gives the selected cards to `duenio` (an owner tag) when they make 15, and passes the turn. The human's
     // capture needs one card of the hand. Says why not, and changes nothing, otherwise.
     void Levanta(const std::string& duenio);
@@ -134,26 +146,15 @@ class Mesa {
     Desktop& desktop_;
 
   private:
-    static constexpr std::size_t Pos(int i) { return static_cast<std::size_t>(i); }
-
-    void RepartoNuevo();
     void SigueOtroReparto();
-    void AnunciaReparto();
-    void JuegaHumano();
-    void JuegaCpu();
-    bool ManosVacias() const;
+    void TurnoHumano();
+    void TurnoCpu();
     void DaCarta(int codigo);
     bool MuestraCarta(int codigo, int carta);
     void Pasa();
-    void AnulaReparto();
-    void PonSuma(int suma);
-    void Entrega(const Slot& slot, const std::string& duenio);
-    bool EligeHumana();
     void Elige(const Slot& slot);
-    bool BuscaLevante(int& mano);
-    bool PruebaDesde(int mano, int ancla);
-    Matriz Cuenta() const;
 
+    std::vector<Slot> slots_;
     // Passes since a card was last played or dealt. Two in a row mean that nobody can move.
     int pasosSeguidos_ = 0;
 };

@@ -1,4 +1,6 @@
 // Match, dealing and turns.
+#include <algorithm>
+
 #include "engine/errorgrave.h"
 #include "engine/mesa.h"
 #include "engine/zarpelfunc.h"
@@ -13,8 +15,7 @@ constexpr int kUltimoCodigoHumano = 10;
 bool EnElMazo(int carta) { return Naipes->Mazo_Duenio(carta) == duenios::kNinguno; }
 
 const std::string& DuenioEn(const Slot& slot) {
-    if (slot.Clase == clase::kMesa) return duenios::kLaMesa;
-    return slot.Clase == clase::kCpu ? duenios::kCpu : duenios::kHumano;
+    return slot.De ? kSignos[*slot.De].Duenio : duenios::kLaMesa;
 }
 
 bool MazoVacio() {
@@ -22,6 +23,28 @@ bool MazoVacio() {
         if (EnElMazo(i)) return false;
     }
     return true;
+}
+
+bool ManosVacias(const Mesa& mesa) {
+    return !mesa.TieneCartas(Jugador::Cpu) && !mesa.TieneCartas(Jugador::Humano);
+}
+
+// What begins with every deal, but for the deck itself.
+void LimpiaReparto(Mesa& mesa) {
+    Naipes->aPrimermano(true);
+    Naipes->aRepartidas(0);
+    Reparto->aZarpelP1(0);
+    Reparto->aZarpelP2(0);
+    for (Image& imagen : mesa.cartap1img) imagen.Visible = false;
+    for (Image& imagen : mesa.cartap2img) imagen.Visible = false;
+}
+
+// Who does not deal begins.
+void EmpiezaReparto(Mesa& mesa) {
+    const PorJugador<std::string> nombres = {"Cpu", Naipes->Nombrejugador()};
+    const Jugador reparte = QuienReparte(Naipes->LaMano()), empieza = Otro(reparte);
+    mesa.cartellbl.Caption = "Reparte " + nombres[reparte] + " - Juega " + nombres[empieza];
+    Reparto->aTurno(kSignos[empieza].Turno);
 }
 
 // A card of the stock, which must not be empty, each with equal chance.
@@ -35,36 +58,39 @@ int SacaCarta(Desktop& desktop) {
 
 }  // namespace
 
-Slot Mesa::SlotDePosicion(int codigo) {
-    if (codigo <= 4) return SlotMesa(codigo - 1);
-    if (codigo <= 7) return SlotCpu(codigo - 5);
-    if (codigo <= 10) return SlotHumano(codigo - 8);
-    return SlotMesa(codigo - 7);
+Mesa::Mesa(Desktop& desktop) : desktop_(desktop) {
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) slots_.push_back({mesaimg[i], CheckMesa[i], {}});
+    for (std::size_t i = 0; i < kLugaresMano; ++i) {
+        slots_.push_back({cartap1img[i], CheckCartap1[i], Jugador::Cpu});
+    }
+    for (std::size_t i = 0; i < kLugaresMano; ++i) {
+        slots_.push_back({cartap2img[i], CheckCartap2[i], Jugador::Humano});
+    }
+}
+
+std::span<const Slot> Mesa::SlotsMano(Jugador quien) const {
+    const std::size_t first = quien == Jugador::Cpu ? kLugaresMesa : kLugaresMesa + kLugaresMano;
+    return std::span(slots_).subspan(first, kLugaresMano);
+}
+
+const Slot& Mesa::SlotDePosicion(int codigo) const {
+    if (codigo <= 4) return SlotsMesa()[codigo - 1];
+    if (codigo <= 7) return SlotsMano(Jugador::Cpu)[codigo - 5];
+    if (codigo <= 10) return SlotsMano(Jugador::Humano)[codigo - 8];
+    return SlotsMesa()[codigo - 7];
 }
 
 void Mesa::ResetGame() {
     desktop_.Randomize();
-    Naipes->aLaMano(desktop_.Rnd() < 0.5 ? 0 : 1);
+    Naipes->aLaMano(kSignos[desktop_.Rnd() < 0.5 ? Jugador::Cpu : Jugador::Humano].LaMano);
     Naipes->aPuntajecpu(0);
     Naipes->aPuntajehumano(0);
-    RepartoNuevo();
+    LimpiaReparto(*this);
     Inicia();
 }
 
-// What begins with every deal, but for the deck itself.
-void Mesa::RepartoNuevo() {
-    Naipes->aPrimermano(true);
-    Naipes->aRepartidas(0);
-    Reparto->aZarpelP1(0);
-    Reparto->aZarpelP2(0);
-    for (int i = 0; i < kLugaresMano; ++i) {
-        SlotCpu(i).Imagen.Visible = false;
-        SlotHumano(i).Imagen.Visible = false;
-    }
-}
-
 void Mesa::SigueOtroReparto() {
-    RepartoNuevo();
+    LimpiaReparto(*this);
     Naipes->Setnaipe(Naipes->CantCartas());
     DecideTurno();
 }
@@ -72,7 +98,7 @@ void Mesa::SigueOtroReparto() {
 void Mesa::Inicia() {
     for (Image& imagen : mesaimg) imagen.Enabled = true;
     for (Image& imagen : cartap2img) imagen.Enabled = true;
-    LoadProperty(desktop_.Folder() + "\\lastprop.dat");
+    LoadProperty(desktop_.PathOf("lastprop.dat"));
     puntajeP1Lbl.Caption = "0";
     puntajeP2Lbl.Caption = "0";
     namelbl.Caption = Naipes->Nombrejugador();
@@ -85,46 +111,37 @@ void Mesa::Inicia() {
 void Mesa::DecideTurno() {
     EmprolijaDesktop();
     MuestraVentana();
-    if (Naipes->Primermano()) AnunciaReparto();
-    if (ManosVacias()) {
+    if (Naipes->Primermano()) EmpiezaReparto(*this);
+    if (ManosVacias(*this)) {
         if (Naipes->Repartidas() >= Naipes->CantCartas()) {
             Naipes->aRepartidas(0);
-            Naipes->aLaMano(Naipes->LaMano() == 0 ? 1 : 0);
+            Naipes->aLaMano(kSignos[Otro(QuienReparte(Naipes->LaMano()))].LaMano);
             return CuentaPuntos();
         }
         SeReparte();
         Naipes->aPrimermano(false);
-        if (ManosVacias()) return DecideTurno();  // the stock was empty: the deal is over
+        if (ManosVacias(*this)) return DecideTurno();  // the stock was empty: the deal is over
     }
-    if (Reparto->Turno() == 0) return JuegaHumano();
-    JuegaCpu();
+    if (DeTurno(Reparto->Turno()) == Jugador::Humano) return TurnoHumano();
+    TurnoCpu();
 }
 
-void Mesa::AnunciaReparto() {
-    const bool reparteCpu = Naipes->LaMano() == 0;
-    cartellbl.Caption = reparteCpu ? "Reparte Cpu - Juega " + Naipes->Nombrejugador()
-                                   : "Reparte " + Naipes->Nombrejugador() + " - Juega Cpu";
-    Reparto->aTurno(reparteCpu ? 0 : 1);
-}
-
-void Mesa::JuegaHumano() {
+void Mesa::TurnoHumano() {
     cartellbl.Caption = "Juega " + Naipes->Nombrejugador();
-    Reparto->aTurno(1);
-    if (!TieneCartas(clase::kHumano)) return Pasa();
-    if (!Bloqueado(clase::kHumano)) return;
+    Reparto->aTurno(kSignos.Cpu.Turno);
+    if (!TieneCartas(Jugador::Humano)) return Pasa();
+    if (!Bloqueado(Jugador::Humano)) return;
     desktop_.Show({.Text = "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno",
                    .Icon = BoxIcon::Information});
     Pasa();
 }
 
-void Mesa::JuegaCpu() {
+void Mesa::TurnoCpu() {
     cartellbl.Caption = "Juega Cpu";
-    Reparto->aTurno(0);
-    if (!TieneCartas(clase::kCpu)) return Pasa();
+    Reparto->aTurno(kSignos.Humano.Turno);
+    if (!TieneCartas(Jugador::Cpu)) return Pasa();
     TurnoPc();
 }
-
-bool Mesa::ManosVacias() const { return !TieneCartas(clase::kCpu) && !TieneCartas(clase::kHumano); }
 
 void Mesa::SeReparte() {
     pasosSeguidos_ = 0;
@@ -144,7 +161,7 @@ void Mesa::DaCarta(int codigo) {
     Naipes->aMazo_Duenio(carta, DuenioEn(SlotDePosicion(codigo)));
     if (!MuestraCarta(codigo, carta)) {
         // A saved match names the pictures where they were on the day it was saved.
-        Naipes->aMazo_Imagen(carta, desktop_.Folder() + "\\" + Naipes->LoadImage(carta));
+        Naipes->aMazo_Imagen(carta, desktop_.PathOf(Naipes->LoadImage(carta)));
         if (!MuestraCarta(codigo, carta)) {
             ErrorGrave(desktop_, "No se puede cargar la imagen " + Naipes->Mazo_Imagen(carta));
         }
@@ -158,18 +175,15 @@ bool Mesa::MuestraCarta(int codigo, int carta) {
 }
 
 void Mesa::Juega(Image& Source) {
-    if (!Source.Visible) return;
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        Image& lugar = SlotMesa(i).Imagen;
-        if (lugar.Visible) continue;
-        lugar.Picture = Source.Picture;
-        lugar.Tag = Source.Tag;
-        Source.Visible = false;
-        lugar.Visible = true;
-        AsignoANaipe(IndiceDeTag(lugar.Tag), duenios::kLaMesa);
-        pasosSeguidos_ = 0;
-        return DecideTurno();
-    }
+    const auto libre = std::ranges::find_if_not(SlotsMesa(), &Slot::Ocupado);
+    if (!Source.Visible || libre == SlotsMesa().end()) return;
+    libre->Imagen.Picture = Source.Picture;
+    libre->Imagen.Tag = Source.Tag;
+    Source.Visible = false;
+    libre->Imagen.Visible = true;
+    AsignoANaipe(libre->Carta(), duenios::kLaMesa);
+    pasosSeguidos_ = 0;
+    DecideTurno();
 }
 
 void Mesa::AsignoANaipe(int subind, const std::string& aquien) {

@@ -1,6 +1,7 @@
-// What happens when a player cannot move: about one match in thirty fills the eight places of the table while
-// the player to move has no capture. The player passes; when both are stuck so, the deal is annulled.
-#include <bitset>
+// What a player can do, and what happens when a player can do nothing: about one match in thirty fills the
+// eight places of the table while the player to move has no capture. The player passes; when both are stuck
+// so, the deal is annulled.
+#include <algorithm>
 
 #include "engine/mesa.h"
 
@@ -8,44 +9,46 @@ namespace zarpel {
 namespace {
 
 constexpr int kPasosDeLosDos = 2;
+constexpr unsigned kConjuntos = 1U << kLugaresMesa;  // sets of table places: bit i stands for place i
+
+// The places of a set, or none when one of them is empty.
+std::vector<int> LugaresDe(unsigned conjunto, std::span<const Slot> mesa) {
+    std::vector<int> lugares;
+    for (int i = 0; i < kLugaresMesa; ++i) {
+        if ((conjunto >> i & 1U) == 0) continue;
+        if (!mesa[i].Ocupado()) return {};
+        lugares.push_back(i);
+    }
+    return lugares;
+}
 
 }  // namespace
 
-bool Mesa::MesaLlena() const {
-    for (const Image& imagen : mesaimg) {
-        if (!imagen.Visible) return false;
+bool Mesa::MesaLlena() const { return std::ranges::all_of(SlotsMesa(), &Slot::Ocupado); }
+
+bool Mesa::TieneCartas(Jugador quien) const { return std::ranges::any_of(SlotsMano(quien), &Slot::Ocupado); }
+
+std::vector<Captura> Mesa::Capturas(Jugador quien) const {
+    std::vector<Captura> capturas;
+    for (unsigned conjunto = 1; conjunto < kConjuntos; ++conjunto) {
+        const std::vector<int> lugares = LugaresDe(conjunto, SlotsMesa());
+        if (lugares.empty()) continue;
+        int resto = kSumaDeLevante;
+        for (const int i : lugares) resto -= SlotsMesa()[i].Numero();
+        for (int mano = 0; mano < kLugaresMano; ++mano) {
+            const Slot& carta = SlotsMano(quien)[mano];
+            if (carta.Ocupado() && carta.Numero() == resto) capturas.push_back({mano, lugares});
+        }
     }
-    return true;
+    return capturas;
 }
 
-bool Mesa::TieneCartas(char manoDe) const {
-    for (const Image& imagen : manoDe == clase::kCpu ? cartap1img : cartap2img) {
-        if (imagen.Visible) return true;
-    }
-    return false;
+bool Mesa::Bloqueado(Jugador quien) const {
+    return TieneCartas(quien) && MesaLlena() && Capturas(quien).empty();
 }
-
-bool Mesa::PuedeLevantar(char manoDe) {
-    std::bitset<kSumaDeLevante + 1> sumas(1);  // bit s: some table cards add up to s
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        if (SlotMesa(i).Ocupado()) sumas |= sumas << static_cast<std::size_t>(SlotMesa(i).Numero());
-    }
-    for (int i = 0; i < kLugaresMano; ++i) {
-        const Slot mano = manoDe == clase::kCpu ? SlotCpu(i) : SlotHumano(i);
-        const auto resto = static_cast<std::size_t>(kSumaDeLevante - mano.Numero());
-        if (mano.Ocupado() && resto < sumas.size() && sumas.test(resto)) return true;
-    }
-    return false;
-}
-
-bool Mesa::Bloqueado(char manoDe) { return TieneCartas(manoDe) && MesaLlena() && !PuedeLevantar(manoDe); }
 
 void Mesa::Pasa() {
-    if (++pasosSeguidos_ >= kPasosDeLosDos) return AnulaReparto();
-    DecideTurno();
-}
-
-void Mesa::AnulaReparto() {
+    if (++pasosSeguidos_ < kPasosDeLosDos) return DecideTurno();
     desktop_.Show(
         {.Text = "Ninguno de los dos puede jugar: se reparte de nuevo", .Icon = BoxIcon::Information});
     SigueOtroReparto();

@@ -1,5 +1,6 @@
 // End of a deal, its count, and the end of the match.
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "engine/mesa.h"
@@ -10,15 +11,12 @@ namespace {
 
 constexpr int kPuntosDePartida = 15;
 
-// The rows that give one point to the player who holds more; a zarpel gives a point each.
-constexpr std::array kFilasPorMayoria = {kCartasGanadas, kOros, kSietes, kVelo};
+// What gives one point to the player who has more of it; a zarpel gives a point each.
+constexpr std::array kPorMayoria = {&Cuenta::Cartas, &Cuenta::Oros, &Cuenta::Sietes, &Cuenta::Velo};
 
-int Puntos(const Matriz& matriz, ColumnaCuenta quien, ColumnaCuenta otro) {
-    int puntos = matriz[kZarpels][quien];
-    for (const FilaCuenta fila : kFilasPorMayoria) {
-        if (matriz.at(fila).at(quien) > matriz.at(fila).at(otro)) ++puntos;
-    }
-    return puntos;
+int Puntos(const Cuenta& suya, const Cuenta& ajena) {
+    return suya.Zarpels + static_cast<int>(std::ranges::count_if(
+                              kPorMayoria, [&](auto cual) { return suya.*cual > ajena.*cual; }));
 }
 
 // The points of a saved match may be as many as a record holds; they never wrap around.
@@ -26,40 +24,40 @@ std::int16_t Mas(std::int16_t puntaje, int puntos) {
     return static_cast<std::int16_t>(std::min<int>(puntaje + puntos, INT16_MAX));
 }
 
+Matriz Cuentas() {
+    Matriz matriz;
+    for (int k = 1; k <= Naipes->CantCartas(); ++k) {
+        Cuenta& cuenta = matriz[DeDuenio(Naipes->Mazo_Duenio(k))];
+        const bool oro = Naipes->Mazo_Palo(k) == "oro";
+        const bool siete = Naipes->Mazo_Numero(k) == 7;
+        cuenta.Cartas += 1;
+        cuenta.Oros += oro;
+        cuenta.Sietes += siete;
+        cuenta.Velo += oro && siete;
+    }
+    matriz.Cpu.Zarpels = Reparto->ZarpelP1();
+    matriz.Humano.Zarpels = Reparto->ZarpelP2();
+    return matriz;
+}
+
 }  // namespace
 
 void Mesa::AsignaRestoALUltimo(const std::string& duenio) {
     cartellbl.Caption = "Esta es la ultima mano";
     desktop_.Pause(kPausaMs);
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        const Slot slot = SlotMesa(i);
+    for (const Slot& slot : SlotsMesa()) {
         if (!slot.Ocupado()) continue;
         AsignoANaipe(slot.Carta(), duenio);
         slot.Imagen.Visible = false;
     }
 }
 
-Matriz Mesa::Cuenta() const {
-    Matriz matriz{};
-    for (int k = 1; k <= Naipes->CantCartas(); ++k) {
-        const ColumnaCuenta quien = Naipes->Mazo_Duenio(k) == duenios::kCpu ? kCpu : kHumano;
-        const bool oro = Naipes->Mazo_Palo(k) == "oro";
-        const bool siete = Naipes->Mazo_Numero(k) == 7;
-        matriz[kCartasGanadas].at(quien) += 1;
-        matriz[kOros].at(quien) += oro;
-        matriz[kSietes].at(quien) += siete;
-        matriz[kVelo].at(quien) += oro && siete;
-    }
-    matriz[kZarpels] = {Reparto->ZarpelP1(), Reparto->ZarpelP2()};
-    return matriz;
-}
-
 void Mesa::CuentaPuntos() {
     AsignaRestoALUltimo(Reparto->UltimoqLevanta());
-    const Matriz matriz = Cuenta();
+    const Matriz matriz = Cuentas();
     MuestraResultados(matriz);
-    Naipes->aPuntajecpu(Mas(Naipes->Puntajecpu(), Puntos(matriz, kCpu, kHumano)));
-    Naipes->aPuntajehumano(Mas(Naipes->Puntajehumano(), Puntos(matriz, kHumano, kCpu)));
+    Naipes->aPuntajecpu(Mas(Naipes->Puntajecpu(), Puntos(matriz.Cpu, matriz.Humano)));
+    Naipes->aPuntajehumano(Mas(Naipes->Puntajehumano(), Puntos(matriz.Humano, matriz.Cpu)));
     puntajeP1Lbl.Caption = std::to_string(Naipes->Puntajecpu());
     puntajeP2Lbl.Caption = std::to_string(Naipes->Puntajehumano());
     if (Naipes->Puntajehumano() >= kPuntosDePartida || Naipes->Puntajecpu() >= kPuntosDePartida) {

@@ -6,12 +6,6 @@
 
 namespace zarpel {
 
-Altura AlturaDe(char letra) {
-    if (letra == clase::kMesa) return {360, 0};
-    if (letra == clase::kHumano) return {6360, 6000};
-    return {360, 360};
-}
-
 int IndiceDeTag(const std::string& tag) {
     const std::size_t start = tag.find_first_not_of(' ');
     if (start == std::string::npos) return 0;
@@ -22,8 +16,15 @@ int IndiceDeTag(const std::string& tag) {
 
 int Slot::Numero() const { return Carta() == 0 ? 0 : Naipes->Mazo_Numero(Carta()); }
 
-void Slot::Levantar() const { Imagen.Top = AlturaDe(Clase).Levantada; }
+Altura Slot::Alturas() const {
+    if (!De) return {360, 0};
+    return De == Jugador::Humano ? Altura{6360, 6000} : Altura{360, 360};
+}
 
-void Slot::Bajar() const { Imagen.Top = AlturaDe(Clase).Reposo; }
+void Slot::Marcar(bool elegido) const {
+    if (Elegido() == elegido) return;
+    Marca.Value = elegido ? 1 : 0;
+    Imagen.Refresh();
+}
 
 }  // namespace zarpel

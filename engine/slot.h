@@ -2,24 +2,18 @@
 // holds a card; the picture's Tag says which.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "engine/jugador.h"
 #include "platform/controls.h"
 
 namespace zarpel {
-
-// Kind letters of the three rows of slots.
-namespace clase {
-constexpr char kMesa = 'm';
-constexpr char kHumano = 'p';
-constexpr char kCpu = 'c';
-}  // namespace clase
 
 // A selected card is raised from one top to the other (twips). The computer's cards do not move.
 struct Altura {
     int Reposo, Levantada;
 };
-Altura AlturaDe(char letra);
 
 // The card index that a Tag holds: the whole number that it begins with, or 0 when that is no index of a
 // card.
@@ -28,16 +22,19 @@ int IndiceDeTag(const std::string& tag);
 struct Slot {
     Image& Imagen;
     CheckBox& Marca;
-    char Clase;
+    std::optional<Jugador> De;  // whose hand it belongs to; nobody's: it lies on the table
 
     bool Ocupado() const { return Imagen.Visible; }
     bool Elegido() const { return Marca.Value == 1; }
     int Carta() const { return IndiceDeTag(Imagen.Tag); }
     // The number of its card; 0 when the Tag names none, as a damaged saved match can leave it.
     int Numero() const;
+    Altura Alturas() const;
 
-    void Levantar() const;
-    void Bajar() const;
+    // Sets the flag. The picture speaks of it, and is drawn again.
+    void Marcar(bool elegido) const;
+    void Subir() const { Imagen.Top = Alturas().Levantada; }
+    void Bajar() const { Imagen.Top = Alturas().Reposo; }
 };
 
 }  // namespace zarpel

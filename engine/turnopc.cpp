@@ -1,53 +1,61 @@
 // The computer's move: a greedy walk over its hand and the table that takes the first capture it finds. It
 // drives the same selection as the player's clicks, and never takes a card out of a walk again, so it misses
 // some captures.
+#include <algorithm>
+#include <optional>
+#include <ranges>
+
 #include "engine/mesa.h"
-#include "engine/zarpelfunc.h"
 
 namespace zarpel {
+namespace {
+
+// One walk: the hand card, the anchor, and each later table card that still fits. True when they make 15.
+bool PruebaDesde(Mesa& mesa, int mano, int ancla) {
+    mesa.EmprolijaDesktop();
+    mesa.Verifica(mesa.SlotsMano(Jugador::Cpu)[mano]);
+    if (!mesa.SlotsMesa()[ancla].Ocupado()) return false;
+    for (const Slot& slot : mesa.SlotsMesa().subspan(ancla)) {
+        if (!slot.Ocupado()) continue;
+        mesa.Verifica(slot);
+        if (mesa.Suma() == kSumaDeLevante) return true;
+    }
+    return false;
+}
+
+// The hand place of the first capture found, which is then selected.
+std::optional<int> BuscaLevante(Mesa& mesa) {
+    for (int mano = 0; mano < kLugaresMano; ++mano) {
+        mesa.EmprolijaDesktop();
+        if (!mesa.SlotsMano(Jugador::Cpu)[mano].Ocupado()) continue;
+        for (int ancla = 0; ancla < kLugaresMesa; ++ancla) {
+            if (PruebaDesde(mesa, mano, ancla)) return mano;
+        }
+    }
+    return std::nullopt;
+}
+
+// The last place of the hand that holds a card; the computer has one when it moves.
+const Slot& CartaQueDeja(const Mesa& mesa) {
+    return *std::ranges::find_if(mesa.SlotsMano(Jugador::Cpu) | std::views::reverse, &Slot::Ocupado);
+}
+
+}  // namespace
 
 void Mesa::TurnoPc() {
-    int mano = 0;
-    const bool levanta = BuscaLevante(mano);
+    const auto mano = BuscaLevante(*this);
     BajaCartasMesa();
-    if (levanta) {
+    if (mano) {
         cartellbl.Caption = "Me llevo estas cartas";
-        fondop1img.at(Pos(mano)).Visible = false;
+        fondop1img.at(*mano).Visible = false;
         desktop_.Pause(kPausaMs);
-        return Levanta(duenios::kCpu);
+        return Levanta(kSignos.Cpu.Duenio);
     }
     const bool pasa = MesaLlena();
     cartellbl.Caption = pasa ? "Paso" : "He Jugado una carta";
     desktop_.Pause(kPausaMs);
     if (pasa) return Pasa();
-    Juega(SlotCpu(mano).Imagen);
-}
-
-// True when a capture was found, and is selected. `mano` becomes the capturing hand slot, or else the last
-// one that holds a card.
-bool Mesa::BuscaLevante(int& mano) {
-    for (int i = 0; i < kLugaresMano; ++i) {
-        EmprolijaDesktop();
-        if (!SlotCpu(i).Ocupado()) continue;
-        mano = i;
-        for (int ancla = 0; ancla < kLugaresMesa; ++ancla) {
-            if (PruebaDesde(i, ancla)) return true;
-        }
-    }
-    return false;
-}
-
-// One walk: the hand card, the anchor, and each later table card that still fits.
-bool Mesa::PruebaDesde(int mano, int ancla) {
-    EmprolijaDesktop();
-    Verifica(SlotCpu(mano));
-    if (!SlotMesa(ancla).Ocupado()) return false;
-    for (int i = ancla; i < kLugaresMesa; ++i) {
-        if (!SlotMesa(i).Ocupado()) continue;
-        Verifica(SlotMesa(i));
-        if (Suma() == kSumaDeLevante) return true;
-    }
-    return false;
+    Juega(CartaQueDeja(*this).Imagen);
 }
 
 }  // namespace zarpel

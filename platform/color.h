@@ -10,11 +10,13 @@ using ColorCode = std::int32_t;
 
 constexpr ColorCode Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
 
-// Numbers of the window system's palette that the game uses, and the highest there is.
-enum PaletteNumber : std::uint32_t { kWindowText = 8, kHighlightText = 14, kButtonFace = 15, kGrayText = 17 };
+// Colours of the window system's palette that the game uses, by their numbers, and the highest there is.
+enum class Palette : std::uint32_t { WindowText = 8, HighlightText = 14, ButtonFace = 15, GrayText = 17 };
 constexpr std::uint32_t kLastPaletteNumber = 24;
 
-constexpr ColorCode SystemColor(std::uint32_t number) { return static_cast<ColorCode>(0x80000000U | number); }
+constexpr ColorCode SystemColor(Palette color) {
+    return static_cast<ColorCode>(0x80000000U | static_cast<std::uint32_t>(color));
+}
 
 // True for a palette colour (the top bit is set).
 constexpr bool IsSystemColor(ColorCode code) { return code < 0; }

@@ -71,7 +71,7 @@ class Container : public Control {
     std::vector<Control*> Children;
 
     Property<std::string> Caption{*this};
-    Property<ColorCode> BackColor{*this, SystemColor(kButtonFace)};
+    Property<ColorCode> BackColor{*this, SystemColor(Palette::ButtonFace)};
 };
 
 struct FontSpec {
@@ -119,8 +119,8 @@ class Label : public Control {
 
     Property<std::string> Caption{*this};
     Property<FontSpec> Font{*this};
-    Property<ColorCode> ForeColor{*this, SystemColor(kWindowText)};
-    Property<ColorCode> BackColor{*this, SystemColor(kButtonFace)};
+    Property<ColorCode> ForeColor{*this, SystemColor(Palette::WindowText)};
+    Property<ColorCode> BackColor{*this, SystemColor(Palette::ButtonFace)};
     Property<bool> Opaque{*this};
     Property<bool> Border{*this};    // a single line around it
     Property<bool> AutoSize{*this};  // grows and shrinks with its text, up to MaxWidth
@@ -158,7 +158,7 @@ class Line : public Control {
     void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
     int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
-    ColorCode BorderColor = SystemColor(kWindowText);
+    ColorCode BorderColor = SystemColor(Palette::WindowText);
 };
 
 struct ToolButton {

@@ -41,6 +41,8 @@ class Desktop {
     virtual std::string Title() const = 0;
     // The folder that holds the executable, without a separator at its end. Never fails.
     virtual std::string Folder() const = 0;
+    // The path of a file of the game's, by its name: the application folder, "\" and the name.
+    std::string PathOf(const std::string& name) const { return Folder() + "\\" + name; }
     // Ends the program at once with this exit status: no handler goes on, no window is asked. Does not
     // return.
     [[noreturn]] void End(int status) {

@@ -29,7 +29,7 @@ void KeepLines(QMessageBox& box) {
 
 }  // namespace
 
-Answer ShowMessage(QWidget* owner, const Message& message, const std::string& applicationTitle) {
+Answer Show(QWidget* owner, const Message& message, const std::string& applicationTitle) {
     QMessageBox box(owner);
     box.setTextFormat(Qt::PlainText);  // a nickname is no markup
     box.setText(QString::fromStdString(message.Text));
@@ -49,8 +49,8 @@ Answer ShowMessage(QWidget* owner, const Message& message, const std::string& ap
     return box.clickedButton() == yes ? Answer::Yes : Answer::No;
 }
 
-std::string AskText(QWidget* owner, const std::string& prompt, const std::string& title,
-                    const std::string& proposed) {
+std::string InputBox(QWidget* owner, const std::string& prompt, const std::string& title,
+                     const std::string& proposed) {
     QInputDialog box(owner);
     box.setWindowTitle(QString::fromStdString(title));
     box.setLabelText(QString::fromStdString(prompt));
@@ -60,7 +60,7 @@ std::string AskText(QWidget* owner, const std::string& prompt, const std::string
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
-bool AskColor(QWidget* owner, ChooserState& dialog) {
+bool ShowColor(QWidget* owner, ChooserState& dialog) {
     const QColor chosen = QColorDialog::getColor(ColorOf(dialog.Color), owner, QStringLiteral("Color"),
                                                  QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid()) return false;

@@ -10,9 +10,9 @@ namespace zarpel {
 
 // Each blocks until the player has answered; `owner` is the window it stands above, or null. They do what the
 // calls of Desktop of the same names say.
-Answer ShowMessage(QWidget* owner, const Message& message, const std::string& applicationTitle);
-std::string AskText(QWidget* owner, const std::string& prompt, const std::string& title,
-                    const std::string& proposed);
-bool AskColor(QWidget* owner, ChooserState& dialog);
+Answer Show(QWidget* owner, const Message& message, const std::string& applicationTitle);
+std::string InputBox(QWidget* owner, const std::string& prompt, const std::string& title,
+                     const std::string& proposed);
+bool ShowColor(QWidget* owner, ChooserState& dialog);
 
 }  // namespace zarpel

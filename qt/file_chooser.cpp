@@ -72,13 +72,13 @@ bool AskFile(QFileDialog& chooser, ChooserState& dialog) {
 
 }  // namespace
 
-bool AskFileToOpen(QWidget* owner, ChooserState& dialog) {
+bool ShowOpen(QWidget* owner, ChooserState& dialog) {
     QFileDialog chooser(owner, QStringLiteral("Abrir"));
     chooser.setFileMode(QFileDialog::ExistingFile);
     return AskFile(chooser, dialog);
 }
 
-bool AskFileToSave(QWidget* owner, ChooserState& dialog) {
+bool ShowSave(QWidget* owner, ChooserState& dialog) {
     QFileDialog chooser(owner, QStringLiteral("Guardar"));
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     return AskFile(chooser, dialog);

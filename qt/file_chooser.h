@@ -10,7 +10,7 @@ namespace zarpel {
 
 // Each blocks until the player has answered; `owner` is the window it stands above, or null. They do what
 // Desktop::ShowOpen and Desktop::ShowSave say.
-bool AskFileToOpen(QWidget* owner, ChooserState& dialog);
-bool AskFileToSave(QWidget* owner, ChooserState& dialog);
+bool ShowOpen(QWidget* owner, ChooserState& dialog);
+bool ShowSave(QWidget* owner, ChooserState& dialog);
 
 }  // namespace zarpel

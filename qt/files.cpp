@@ -16,7 +16,7 @@ QString SystemPath(const std::string& path) {
 
 bool IsRegularFile(const QString& path) { return QFileInfo(path).isFile(); }
 
-std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t limit) {
+std::optional<std::string> ReadFile(const std::string& path, std::size_t limit) {
     const QString name = SystemPath(path);
     if (!IsRegularFile(name)) return std::nullopt;
     QFile file(name);
@@ -28,7 +28,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t li
 
 // A QSaveFile writes beside the file, brings that to the disk, and renames it. What it fails to write from
 // its buffer on the way it does not notice: on a full disk an empty file would take the old one's place.
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
+bool WriteFile(const std::string& path, const std::string& bytes) {
     QSaveFile file(SystemPath(path));
     const auto size = static_cast<qint64>(bytes.size());
     return file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.flush() &&

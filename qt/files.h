@@ -17,7 +17,7 @@ QString SystemPath(const std::string& path);
 bool IsRegularFile(const QString& path);
 
 // As Desktop::ReadFile and Desktop::WriteFile.
-std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t limit);
-bool ReplaceFile(const std::string& path, const std::string& bytes);
+std::optional<std::string> ReadFile(const std::string& path, std::size_t limit);
+bool WriteFile(const std::string& path, const std::string& bytes);
 
 }  // namespace zarpel

@@ -7,7 +7,7 @@
 
 namespace zarpel {
 
-void Launch(const std::string& commandLine) {
+void Run(const std::string& commandLine) {
     const QString whole = SystemPath(commandLine);
     if (IsRegularFile(whole)) {
         QProcess::startDetached(whole, {});

@@ -148,25 +148,25 @@ Place QtDesktop::Screen() const {
 
 // --- Boxes and choosers ---
 
-Answer QtDesktop::Show(const Message& message) { return ShowMessage(TopWindow(), message, Title()); }
+Answer QtDesktop::Show(const Message& message) { return zarpel::Show(TopWindow(), message, Title()); }
 
 std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
                                 const std::string& proposed) {
-    return AskText(TopWindow(), prompt, title, proposed);
+    return zarpel::InputBox(TopWindow(), prompt, title, proposed);
 }
 
-bool QtDesktop::ShowOpen(ChooserState& dialog) { return AskFileToOpen(TopWindow(), dialog); }
-bool QtDesktop::ShowSave(ChooserState& dialog) { return AskFileToSave(TopWindow(), dialog); }
-bool QtDesktop::ShowColor(ChooserState& dialog) { return AskColor(TopWindow(), dialog); }
+bool QtDesktop::ShowOpen(ChooserState& dialog) { return zarpel::ShowOpen(TopWindow(), dialog); }
+bool QtDesktop::ShowSave(ChooserState& dialog) { return zarpel::ShowSave(TopWindow(), dialog); }
+bool QtDesktop::ShowColor(ChooserState& dialog) { return zarpel::ShowColor(TopWindow(), dialog); }
 
 // --- Files ---
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path, std::size_t limit) {
-    return ReadWholeFile(path, limit);
+    return zarpel::ReadFile(path, limit);
 }
 
 bool QtDesktop::WriteFile(const std::string& path, const std::string& bytes) {
-    return ReplaceFile(path, bytes);
+    return zarpel::WriteFile(path, bytes);
 }
 
 // --- Time and chance ---
@@ -193,6 +193,6 @@ void QtDesktop::OpenHelp(const std::string& path) {
     help_->Present();
 }
 
-void QtDesktop::Run(const std::string& commandLine) { Launch(commandLine); }
+void QtDesktop::Run(const std::string& commandLine) { zarpel::Run(commandLine); }
 
 }  // namespace zarpel

@@ -21,7 +21,7 @@ using Fields = std::vector<Field>;
 
 // A field from the two functions that get and set its value.
 template <class Get, class Set>
-Field Of(Get get, Set set) {
+Field FieldFrom(Get get, Set set) {
     using Value = std::decay_t<std::invoke_result_t<Get>>;
     return {[get](ValueWriter& file) { file.Put(get()); },
             [set](ValueReader& file) {
@@ -32,16 +32,19 @@ Field Of(Get get, Set set) {
             }};
 }
 
+// A property of a control.
 template <class Value>
-Field Of(Property<Value>& property) {
-    return Of([&property] { return property.get(); }, [&property](const Value& value) { property = value; });
+Field PropertyField(Property<Value>& property) {
+    return FieldFrom([&property] { return property.get(); },
+                     [&property](const Value& value) { property = value; });
 }
 
 // A field of a record, from its getter and setter, and the index that both take first, if they do.
 template <class Record, class Get, class Set, class... Index>
-Field Of(Record& record, Get get, Set set, Index... index) {
-    return Of([&record, get, index...] { return std::invoke(get, record, index...); },
-              [&record, set, index...](const auto& value) { std::invoke(set, record, index..., value); });
+Field RecordField(Record& record, Get get, Set set, Index... index) {
+    return FieldFrom(
+        [&record, get, index...] { return std::invoke(get, record, index...); },
+        [&record, set, index...](const auto& value) { std::invoke(set, record, index..., value); });
 }
 
 // Makes the fields' values the whole content of the file. When that fails the player is told, and the file is

@@ -19,7 +19,7 @@ void Draw(Container& container, std::initializer_list<LabelDesign> designs) {
         label.Font = design.Font;
         label.ForeColor = design.ForeColor;
         label.Opaque = design.BackColor.has_value();
-        label.BackColor = design.BackColor.value_or(SystemColor(kButtonFace));
+        label.BackColor = design.BackColor.value_or(SystemColor(Palette::ButtonFace));
         label.Align = design.Align;
         label.AutoSize = design.AutoSize;
         label.MaxWidth = design.MaxWidth;

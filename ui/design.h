@@ -19,7 +19,7 @@ struct LabelDesign {
     Place At;
     const char* Caption = "";
     FontSpec Font = {};
-    ColorCode ForeColor = SystemColor(kWindowText);
+    ColorCode ForeColor = SystemColor(Palette::WindowText);
     std::optional<ColorCode> BackColor = std::nullopt;  // nothing: transparent
     Alignment Align = Alignment::Left;
     bool AutoSize = false;
@@ -44,7 +44,7 @@ struct FrameDesign {
 struct LineDesign {
     Line& Control;
     int X1, Y1, X2, Y2;
-    ColorCode Color = SystemColor(kWindowText);
+    ColorCode Color = SystemColor(Palette::WindowText);
 };
 
 // Each puts its controls into the state of the design, whatever they were before, and adds them to

@@ -22,10 +22,10 @@ void Playing::Form_Load() {
 
 void Playing::ConnectEvents() {
     for (int i = 0; i < kLugaresMesa; ++i) {
-        SlotMesa(i).Imagen.Click = [this, i] { mesaimg_Click(i); };
+        mesaimg.at(i).Click = [this, i] { mesaimg_Click(i); };
     }
     for (int i = 0; i < kLugaresMano; ++i) {
-        SlotHumano(i).Imagen.Click = [this, i] { cartap2img_Click(i); };
+        cartap2img.at(i).Click = [this, i] { cartap2img_Click(i); };
     }
     LevantarBtn.Click = [this] { LevantarBtn_Click(); };
     Frame1.DragDrop = [this](Image& source) { Frame1_DragDrop(source); };

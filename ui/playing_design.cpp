@@ -35,8 +35,8 @@ const std::array kTableTips = {"carta a tomar", "carta a tomar", "carta en mesa"
 const std::array kCpuTips = {"Carta Cpu", "Carta Cpu", "Carta Cpu"};
 const std::array kHumanTips = {"Vuestra carta", "Carta 1", "Carta 1"};
 
-Place InRow(const RowDesign& row, int i, char letra) {
-    return {row.Left + row.Step * i, AlturaDe(letra).Reposo, row.Width, row.Height};
+Place InRow(const RowDesign& row, const Slot& slot, int i) {
+    return {row.Left + row.Step * i, slot.Alturas().Reposo, row.Width, row.Height};
 }
 
 void DrawCard(Container& container, Image& image, const Place& at, const char* tip) {
@@ -48,9 +48,7 @@ void DrawCard(Container& container, Image& image, const Place& at, const char* t
 
 void DrawFlag(Container& container, const Slot& slot, int left, int top) {
     Draw(container, slot.Marca, {left, top, kFlagWidth, kFlagHeight});
-    slot.Marca.Value = 0;
-    // The flag is not drawn: its picture shows it and speaks of it.
-    slot.Marca.Changed = [&image = slot.Imagen] { image.Refresh(); };
+    slot.Marcar(false);
 }
 
 std::string NameOfCard(int carta) {
@@ -79,7 +77,7 @@ void Playing::Design() {
     const FontSpec trebuchet = {"Trebuchet MS", 9.75, true};
     const FontSpec points = {"MS Sans Serif", 18};
     Draw(*this, {{.Control = Frame1, .At = {480, 3000, 10815, 2655}, .Border = false}});
-    Frame1.BackColor = SystemColor(kButtonFace);
+    Frame1.BackColor = SystemColor(Palette::ButtonFace);
     Draw(*this, {{Line1, 1200, 360, 1200, 2280}, {Line2, 120, 720, 2280, 720}});
     Draw(*this, {{.Control = Label1,
                   .At = {120, 360, 975, 255},
@@ -105,7 +103,7 @@ void Playing::Design() {
                  {.Control = cartellbl,
                   .At = {8640, 1560, 3015, 495},
                   .Font = {"MS Sans Serif", 13.5},
-                  .ForeColor = SystemColor(kHighlightText),
+                  .ForeColor = SystemColor(Palette::HighlightText),
                   .BackColor = kTableGreen,
                   .Align = Alignment::Center,
                   .WordWrap = true},
@@ -129,35 +127,32 @@ void Playing::Design() {
 
 void Playing::DesignSlots() {
     for (int i = 0; i < kLugaresMesa; ++i) {
-        const Slot slot = SlotMesa(i);
-        DrawCard(Frame1, slot.Imagen, InRow(kTableRow, i, clase::kMesa), kTableTips.at(std::size_t(i)));
+        const Slot& slot = SlotsMesa()[i];
+        DrawCard(Frame1, slot.Imagen, InRow(kTableRow, slot, i), kTableTips.at(i));
         Speak(slot, "mesa", i);
     }
     for (int i = 0; i < kLugaresMano; ++i) {
-        const Slot cpu = SlotCpu(i);
-        const auto pos = static_cast<std::size_t>(i);
-        DrawCard(*this, cpu.Imagen, InRow(kCpuRow, i, clase::kCpu), kCpuTips.at(pos));
+        const Slot& cpu = SlotsMano(Jugador::Cpu)[i];
+        DrawCard(*this, cpu.Imagen, InRow(kCpuRow, cpu, i), kCpuTips.at(i));
         Speak(cpu, "cpu", i);
 
-        Image& dorso = fondop1img.at(pos);
-        Place over = InRow(kCpuRow, i, clase::kCpu);
+        Image& dorso = fondop1img[i];
+        Place over = InRow(kCpuRow, cpu, i);
         over.Width = kBackWidth;
         DrawCard(*this, dorso, over, "");
         dorso.Picture = ":/dorso.jpg";
         dorso.Spoken = [i] { return Speech{"carta tapada", "cpu " + std::to_string(i + 1)}; };
         cpu.Imagen.Cover = &dorso;
 
-        const Slot humano = SlotHumano(i);
-        DrawCard(*this, humano.Imagen, InRow(kHumanRow, i, clase::kHumano), kHumanTips.at(pos));
+        const Slot& humano = SlotsMano(Jugador::Humano)[i];
+        DrawCard(*this, humano.Imagen, InRow(kHumanRow, humano, i), kHumanTips.at(i));
         humano.Imagen.Draggable = true;
         Speak(humano, "mano", i);
     }
-    for (int i = 0; i < kLugaresMesa; ++i) {
-        DrawFlag(Frame1, SlotMesa(i), kTableFlags.at(std::size_t(i)), kTableFlagTop);
-    }
+    for (int i = 0; i < kLugaresMesa; ++i) DrawFlag(Frame1, SlotsMesa()[i], kTableFlags.at(i), kTableFlagTop);
     for (int i = 0; i < kLugaresMano; ++i) {
-        DrawFlag(*this, SlotCpu(i), kCpuFlags.at(std::size_t(i)), kCpuFlagTop);
-        DrawFlag(*this, SlotHumano(i), kHumanFlags.at(std::size_t(i)), kHumanFlagTop);
+        DrawFlag(*this, SlotsMano(Jugador::Cpu)[i], kCpuFlags.at(i), kCpuFlagTop);
+        DrawFlag(*this, SlotsMano(Jugador::Humano)[i], kHumanFlags.at(i), kHumanFlagTop);
     }
 }
 

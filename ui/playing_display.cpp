@@ -14,17 +14,17 @@ bool Playing::UpdateImagenDesktop(int i, const std::string& Imagen, int subind) 
 }
 
 void Playing::SetPantalla() {
-    for (Image& imagen : fondop1img) imagen.Visible = true;  // first: what they cover must not be told
+    // The backs first: a screen reader must not name the cards under them.
+    for (Image& imagen : fondop1img) imagen.Visible = true;
     for (Image& imagen : cartap1img) imagen.Visible = true;
     for (Image& imagen : cartap2img) imagen.Visible = true;
     if (!Naipes->Primermano()) return;
-    for (int i = 0; i < kLugaresMesa; ++i) SlotMesa(i).Imagen.Visible = i < kCartasEnMesa;
+    for (int i = 0; i < kLugaresMesa; ++i) mesaimg[i].Visible = i < kCartasEnMesa;
 }
 
 void Playing::EmprolijaDesktop() {
-    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-        const Slot slot = SlotDePosicion(codigo);
-        slot.Marca.Value = 0;
+    for (const Slot& slot : Slots()) {
+        slot.Marcar(false);
         slot.Bajar();
     }
     for (std::size_t i = 0; i < fondop1img.size(); ++i) {

@@ -38,11 +38,11 @@ void Playing::CargarJuego(const std::string& filename) {
         abrirmnu_Click();
     }
     // A saved match leaves the move to the player. One changed by hand can leave no move to make.
-    if (!TieneCartas(clase::kHumano) || Bloqueado(clase::kHumano)) DecideTurno();
+    if (!TieneCartas(Jugador::Humano) || Bloqueado(Jugador::Humano)) DecideTurno();
 }
 
 // In the fresh match the computer may have played a card of its hand, whose back is gone. All backs lie there
-// while the file is read, so that no card is seen, or told, that the file shows there.
+// while the file is read, so that the player neither sees nor hears a card that the file shows there.
 bool Playing::LeeJuego(const std::string& filename) {
     std::array<bool, kLugaresMano> dorsos{};
     for (std::size_t i = 0; i < dorsos.size(); ++i) dorsos.at(i) = fondop1img.at(i).Visible;

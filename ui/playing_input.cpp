@@ -14,15 +14,15 @@ constexpr int kBordeBarra = 8055;  // from here down the pointer calls the statu
 
 }  // namespace
 
-void Playing::mesaimg_Click(int Index) { Toca(SlotMesa(Index)); }
+void Playing::mesaimg_Click(int Index) { Toca(SlotsMesa()[Index]); }
 
-void Playing::cartap2img_Click(int Index) { Toca(SlotHumano(Index)); }
+void Playing::cartap2img_Click(int Index) { Toca(SlotsMano(Jugador::Humano)[Index]); }
 
 void Playing::Toca(const Slot& slot) {
     if (slot.Ocupado()) Verifica(slot);
 }
 
-void Playing::LevantarBtn_Click() { Levanta(duenios::kHumano); }
+void Playing::LevantarBtn_Click() { Levanta(kSignos.Humano.Duenio); }
 
 void Playing::Frame1_DragDrop(Image& Source) { Juega(Source); }
 
@@ -33,14 +33,14 @@ void Playing::Form_KeyDown(int keycode, int shift) {
 
 void Playing::SensordeTeclas(int KeyAscii, int mayus) {
     if (puntajeP1Lbl.Caption.get().empty()) return;
-    if (KeyAscii == kTeclaTomar) return Levanta(duenios::kHumano);
+    if (KeyAscii == kTeclaTomar) return Levanta(kSignos.Humano.Duenio);
 
     const char tecla = static_cast<char>(KeyAscii);
     const std::size_t mesa = kTeclasMesa.find(tecla);
-    if (mesa != std::string_view::npos) return Toca(SlotMesa(static_cast<int>(mesa)));
+    if (mesa != std::string_view::npos) return Toca(SlotsMesa()[mesa]);
     const std::size_t mano = kTeclasMano.find(tecla);
     if (mano == std::string_view::npos) return;
-    const Slot slot = SlotHumano(static_cast<int>(mano));
+    const Slot& slot = SlotsMano(Jugador::Humano)[mano];
     if (mayus == kShift) return Juega(slot.Imagen);
     Toca(slot);
 }

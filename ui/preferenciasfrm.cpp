@@ -39,9 +39,10 @@ void preferenciasfrm::Design() {
                   Swatch(Label1, 480),
                   {Label7, {240, 1320, 885, 195}, "Fondo Rect."},
                   Swatch(Label6, 1320)});
-    Draw(Frame2,
-         {{Label9, {960, 600, 600, 195}, "Reverso"},
-          {.Control = Label8, .At = {120, 960, 2415, 255}, .BackColor = SystemColor(kHighlightText)}});
+    Draw(
+        Frame2,
+        {{Label9, {960, 600, 600, 195}, "Reverso"},
+         {.Control = Label8, .At = {120, 960, 2415, 255}, .BackColor = SystemColor(Palette::HighlightText)}});
     Draw(Frame3, {{.Control = Label5, .At = {120, 240, 690, 195}, .AutoSize = true, .MaxWidth = 5175}});
     Label1.SpokenAs = "Fondo";
     Label6.SpokenAs = "Fondo Rect.";

@@ -15,8 +15,8 @@ LabelDesign RowHeading(Label& label, int top, const char* caption) {
             .At = {0, top, 975, 255},
             .Caption = caption,
             .Font = {"MS Sans Serif", 9.75, true},
-            .ForeColor = SystemColor(kHighlightText),
-            .BackColor = SystemColor(kGrayText)};
+            .ForeColor = SystemColor(Palette::HighlightText),
+            .BackColor = SystemColor(Palette::GrayText)};
 }
 
 LabelDesign Figure(Label& label, int left, int top) {
@@ -77,17 +77,17 @@ Resultadosfrm::Resultadosfrm(Desktop& desktop) : desktop_(desktop) {
 
 void Resultadosfrm::Resultados(const Matriz& matriz) {
     Label2.Caption = Naipes->Nombrejugador();
-    const std::array<std::array<Label*, kColumnasCuenta>, kFilasCuenta> figures = {{
-        {&cartasp1lbl, &cartasp2lbl},
-        {&orosp1lbl, &orosp2lbl},
-        {&sietesp1lbl, &sietesp2lbl},
-        {&velop1lbl, &velop2lbl},
-        {&zarpelp1lbl, &zarpelp2lbl},
-    }};
-    for (std::size_t row = 0; row < figures.size(); ++row) {
-        for (std::size_t column = 0; column < figures[row].size(); ++column) {
-            figures[row][column]->Caption = std::to_string(matriz[row][column]);
-        }
+    const struct {
+        Label &Cpu, &Humano;
+        int Cuenta::*Cual;
+    } figures[] = {{cartasp1lbl, cartasp2lbl, &Cuenta::Cartas},
+                   {orosp1lbl, orosp2lbl, &Cuenta::Oros},
+                   {sietesp1lbl, sietesp2lbl, &Cuenta::Sietes},
+                   {velop1lbl, velop2lbl, &Cuenta::Velo},
+                   {zarpelp1lbl, zarpelp2lbl, &Cuenta::Zarpels}};
+    for (const auto& [cpu, humano, cual] : figures) {
+        cpu.Caption = std::to_string(matriz.Cpu.*cual);
+        humano.Caption = std::to_string(matriz.Humano.*cual);
     }
 }
 

@@ -38,10 +38,10 @@ TEST(Captura, GivesThePlayerTheCardsAndAZarpelWhenItEmptiesTheTable) {
     table.Press("1AS");
     table.Window.LevantarBtn.Click();
     for (const int carta : {Card(7, 'o'), 3, Card(5, 'b')}) {
-        EXPECT_EQ(Naipes->Mazo_Duenio(carta), duenios::kHumano) << carta;
+        EXPECT_EQ(Naipes->Mazo_Duenio(carta), kSignos.Humano.Duenio) << carta;
     }
-    EXPECT_EQ(table.InHand(clase::kHumano), std::vector{1});
-    EXPECT_EQ(Reparto->UltimoqLevanta(), duenios::kHumano);
+    EXPECT_EQ(table.InHand(Jugador::Humano), std::vector{1});
+    EXPECT_EQ(Reparto->UltimoqLevanta(), kSignos.Humano.Duenio);
     EXPECT_EQ(Reparto->ZarpelP1(), 0);
     EXPECT_EQ(Reparto->ZarpelP2(), 1);
     EXPECT_EQ(table.Desktop.Boxes, (std::vector<Message>{{"¡¡¡ZARPEL!!!", BoxIcon::Exclamation}}));

@@ -9,7 +9,7 @@ namespace {
 
 // The last three cards lie on the table until the deal ends.
 TEST(Puntos, ADealIsShownThenScoredAndFifteenEndTheMatch) {
-    const std::string cpu = duenios::kCpu, humano = duenios::kHumano;
+    const std::string cpu = kSignos.Cpu.Duenio, humano = kSignos.Humano.Duenio;
     const Message winCpu = {"GANADOR CPU", BoxIcon::Exclamation, "Final"};
     const Message winHuman = {"GANADOR Ana", BoxIcon::Exclamation, "Final"};
     const Message draw = {"JUEGO EMPATADO", BoxIcon::Exclamation};
@@ -69,10 +69,10 @@ TEST(Puntos, ADealIsShownThenScoredAndFifteenEndTheMatch) {
         table.Desktop.Answers = {c.Again};
         const bool over = !c.Boxes.empty(), again = c.Again == Answer::Yes;
         if (over && !again) {
-            EXPECT_THROW(table.GiveMoveTo(clase::kHumano), ScriptedDesktop::Ended);
+            EXPECT_THROW(table.GiveMoveTo(Jugador::Humano), ScriptedDesktop::Ended);
             EXPECT_EQ(table.Desktop.Calls.back(), "end 0");
         } else {
-            table.GiveMoveTo(clase::kHumano);
+            table.GiveMoveTo(Jugador::Humano);
             EXPECT_EQ(Naipes->Repartidas(), 10);
             EXPECT_EQ(Reparto->ZarpelP2(), 0);
             EXPECT_TRUE(over || table.TakeCaptions().front() == "Reparte Ana - Juega Cpu");

@@ -14,8 +14,8 @@ TEST(Reparto, WhoDoesNotDealMovesFirstInEveryDistribution) {
         Table table(3, humanFirst);
         const auto look = [&](int dealt) {
             EXPECT_EQ(Naipes->Repartidas(), dealt);
-            EXPECT_EQ(table.InHand(clase::kHumano).size(), 3U);
-            EXPECT_EQ(table.InHand(clase::kCpu).size(), humanFirst ? 3U : 2U);
+            EXPECT_EQ(table.InHand(Jugador::Humano).size(), 3U);
+            EXPECT_EQ(table.InHand(Jugador::Cpu).size(), humanFirst ? 3U : 2U);
         };
         look(10);
         const Texts captions = table.TakeCaptions();
@@ -24,9 +24,9 @@ TEST(Reparto, WhoDoesNotDealMovesFirstInEveryDistribution) {
         EXPECT_EQ(captions.back(), "Juega Humano");
 
         table.Lay({0, 0, 0, 0, 0, 10}, {humanFirst ? 0 : 1}, {humanFirst ? 1 : 0});
-        humanFirst ? table.GiveMoveTo(clase::kCpu) : table.Press("1", kShift);
+        humanFirst ? table.GiveMoveTo(Jugador::Cpu) : table.Press("1", kShift);
         look(16);
-        EXPECT_TRUE(table.Window.SlotMesa(5).Ocupado());
+        EXPECT_TRUE(table.Window.SlotsMesa()[5].Ocupado());
     }
 }
 
@@ -37,20 +37,21 @@ TEST(Paso, NoTableIsEverStuck) {
     const std::string wait = "pause 1500", paso = "Paso", reparte = "Reparte Cpu - Juega Humano";
     const std::string cpu = "Juega Cpu", yo = "Juega Humano";
     const std::string lleva = "Me llevo estas cartas", laid = "He Jugado una carta";
+    constexpr Jugador kYo = Jugador::Humano, kEl = Jugador::Cpu;
     constexpr int kStuck = Card(8, 'o'), kStuckToo = Card(8, 'c'), kTakesEight = Card(7, 'o');
     constexpr int kTakesNine = Card(6, 'e'), kBlind = Card(5, 'e');  // to 2 and 8
     const struct {
         const char* What;
         std::vector<int> Humano, Cpu;
         Texts Calls, Captions;
-        char Mover;
+        Jugador Mover;
         bool Annulled = false;
     } cases[] = {
-        {"human", {kStuck}, {kTakesNine, kStuckToo}, {llena, wait}, {cpu, lleva, yo}, 'p'},
-        {"computer", {kTakesEight}, {kBlind}, {wait}, {cpu, paso, yo}, 'c'},
-        {"both", {kStuck}, {kStuckToo}, {llena, wait, ninguno}, {cpu, paso, reparte, yo}, 'p', true},
-        {"computer without cards", {kTakesEight}, {}, {}, {cpu, yo}, 'c'},
-        {"human, twice", {}, {kStuck, kTakesNine}, {wait, wait}, {cpu, lleva, yo, cpu, laid, yo}, 'p'},
+        {"human", {kStuck}, {kTakesNine, kStuckToo}, {llena, wait}, {cpu, lleva, yo}, kYo},
+        {"computer", {kTakesEight}, {kBlind}, {wait}, {cpu, paso, yo}, kEl},
+        {"both", {kStuck}, {kStuckToo}, {llena, wait, ninguno}, {cpu, paso, reparte, yo}, kYo, true},
+        {"computer without cards", {kTakesEight}, {}, {}, {cpu, yo}, kEl},
+        {"human, twice", {}, {kStuck, kTakesNine}, {wait, wait}, {cpu, lleva, yo, cpu, laid, yo}, kYo},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.What);

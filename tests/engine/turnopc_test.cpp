@@ -35,24 +35,24 @@ TEST(TurnoPc, TakesTheFirstCaptureOfItsWalkOrLaysItsLastCard) {
         Table table;
         Playing& window = table.Window;
         table.Lay(c.Mesa, {Card(10, 'c')}, c.Cpu);
-        const int played = window.SlotCpu(c.Played).Carta();
+        const int played = window.SlotsMano(Jugador::Cpu)[c.Played].Carta();
         table.Desktop.OnPause = [&] {
-            EXPECT_EQ(window.SlotCpu(c.Played).Imagen.Cover->Visible.get(), !takes);
+            EXPECT_EQ(window.SlotsMano(Jugador::Cpu)[c.Played].Imagen.Cover->Visible.get(), !takes);
             for (int i = 0; i < kLugaresMesa && takes; ++i) {
-                const Slot slot = window.SlotMesa(i);
+                const Slot slot = window.SlotsMesa()[i];
                 const bool taken = slot.Ocupado() && std::ranges::count(left, slot.Carta()) == 0;
                 EXPECT_EQ(slot.Imagen.Top.get(), taken ? 0 : 360) << i;
             }
         };
-        table.GiveMoveTo(clase::kCpu);
+        table.GiveMoveTo(Jugador::Cpu);
 
         const std::string says = takes ? "Me llevo estas cartas" : "He Jugado una carta";
         EXPECT_EQ(table.TakeCaptions(), (std::vector<std::string>{"Juega Cpu", says, "Juega Humano"}));
         EXPECT_EQ(table.Desktop.Calls.front(), "pause 1500");
-        EXPECT_FALSE(window.SlotCpu(c.Played).Ocupado());
-        EXPECT_EQ(Naipes->Mazo_Duenio(played), takes ? duenios::kCpu : duenios::kLaMesa);
-        for (const int carta : c.Taken) EXPECT_EQ(Naipes->Mazo_Duenio(carta), duenios::kCpu) << carta;
-        EXPECT_EQ(Reparto->UltimoqLevanta() == duenios::kCpu, takes);
+        EXPECT_FALSE(window.SlotsMano(Jugador::Cpu)[c.Played].Ocupado());
+        EXPECT_EQ(Naipes->Mazo_Duenio(played), takes ? kSignos.Cpu.Duenio : duenios::kLaMesa);
+        for (const int carta : c.Taken) EXPECT_EQ(Naipes->Mazo_Duenio(carta), kSignos.Cpu.Duenio) << carta;
+        EXPECT_EQ(Reparto->UltimoqLevanta() == kSignos.Cpu.Duenio, takes);
         EXPECT_NE(window.LevantarBtn.Enabled.get(), takes);
         EXPECT_NE(window.SumandoLbl.Visible.get(), takes);
         EXPECT_EQ(Reparto->ZarpelP1(), takes && left.empty() ? 1 : 0);

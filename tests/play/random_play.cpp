@@ -67,7 +67,7 @@ class RandomMatch {
     // cards, unlike the game.
     std::vector<Slot> FindCapture() {
         for (int i = 0; i < kLugaresMano; ++i) {
-            const Slot mano = window_.SlotHumano(i);
+            const Slot mano = window_.SlotsMano(Jugador::Humano)[i];
             std::vector<Slot> cards = {mano};
             if (mano.Ocupado() && Completes(cards, kSumaDeLevante - mano.Numero())) return cards;
         }
@@ -77,7 +77,7 @@ class RandomMatch {
     // Adds cards of the table, from place `from` on, that make `rest`; none, when there are none.
     bool Completes(std::vector<Slot>& cards, int rest, int from = 0) {
         for (int i = from; i < kLugaresMesa && rest > 0; ++i) {
-            const Slot mesa = window_.SlotMesa(i);
+            const Slot mesa = window_.SlotsMesa()[i];
             if (!mesa.Ocupado()) continue;
             cards.push_back(mesa);
             if (Completes(cards, rest - mesa.Numero(), i + 1)) return true;
@@ -88,9 +88,6 @@ class RandomMatch {
 
     // Each card is in one place, and its owner tag says in which.
     void CheckCards() {
-        static const std::map<char, std::string> owners = {{clase::kMesa, duenios::kLaMesa},
-                                                           {clase::kCpu, duenios::kCpu},
-                                                           {clase::kHumano, duenios::kHumano}};
         std::set<int> seen;
         for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
             const Slot slot = window_.SlotDePosicion(codigo);
@@ -99,7 +96,8 @@ class RandomMatch {
             Require(carta != 0 && slot.Imagen.Tag == std::to_string(carta), "a shown card has no index");
             Require(seen.insert(carta).second, "a card is in two places");
             Require(slot.Imagen.Picture == Naipes->Mazo_Imagen(carta), "a card shows another's picture");
-            Require(Naipes->Mazo_Duenio(carta) == owners.at(slot.Clase), "a card is another's");
+            const std::string& duenio = slot.De ? kSignos[*slot.De].Duenio : duenios::kLaMesa;
+            Require(Naipes->Mazo_Duenio(carta) == duenio, "a card is another's");
         }
         Require(CardsOf(duenios::kLaMesa) == std::ssize(table_.OnTable()),
                 "a card of the table is not there");
@@ -117,20 +115,20 @@ class RandomMatch {
         int sum = 0, chosenOfHand = 0;
         for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
             const Slot slot = window_.SlotDePosicion(codigo);
-            const Altura altura = AlturaDe(slot.Clase);
+            const Altura altura = slot.Alturas();
             Require(slot.Imagen.Top == (slot.Elegido() ? altura.Levantada : altura.Reposo), "raised amiss");
             Require(!slot.Imagen.Cover || slot.Imagen.Cover->Visible == slot.Ocupado(), "a back is amiss");
             if (!slot.Elegido()) continue;
-            Require(slot.Ocupado() && slot.Clase != clase::kCpu, "what the human cannot select is selected");
+            Require(slot.Ocupado() && slot.De != Jugador::Cpu, "what the human cannot select is selected");
             sum += slot.Numero();
-            chosenOfHand += slot.Clase == clase::kHumano;
+            chosenOfHand += slot.De == Jugador::Humano;
         }
         const std::string& caption = window_.SumandoLbl.Caption;
         Require(sum == window_.Suma() && (caption.empty() ? 0 : std::stoi(caption)) == sum, "wrong sum");
         Require(sum <= kSumaDeLevante && chosenOfHand <= 1, "too much is selected");
         Require(Naipes->Repartidas() + CardsOf(duenios::kNinguno) == classnaipe::kCartas,
                 "Repartidas does not count the cards");
-        Require(Reparto->Turno() == 1 && window_.TieneCartas(clase::kHumano), "it is nobody's turn");
+        Require(Reparto->Turno() == 1 && window_.TieneCartas(Jugador::Humano), "it is nobody's turn");
         Require(!window_.MesaLlena() || !FindCapture().empty(), "the human cannot move");
         for (const std::string& text : table_.TakeCaptions()) ++shown[text];
     }

@@ -74,13 +74,13 @@ TEST_F(BoxesTest, TheResultsWindowEndsByEveryWayOut) {
             Leave(window, key);
         });
         Desktop.ShowModal(results);
-        EXPECT_FALSE(Game.SlotHumano(0).Elegido());
+        EXPECT_FALSE(Game.SlotsMano(Jugador::Humano)[0].Elegido());
     }
 }
 
 TEST_F(BoxesTest, OpcionesIsUsedFromTheKeyboard) {
     Game.BackColor = Rgb(10, 20, 30);
-    Game.Frame1.BackColor = SystemColor(kHighlightText);
+    Game.Frame1.BackColor = SystemColor(Palette::HighlightText);
     // Chooses a colour, and gives that of the table after this key on this button.
     const auto colorAfter = [&](Button preferenciasfrm::*button, Qt::Key pressed) {
         preferenciasfrm options(Desktop, Game);

@@ -30,14 +30,14 @@ class Files : public testing::Test {
 
 TEST_F(Files, AreReplacedWholeAndReadUpToALimit) {
     const std::string path = In("Año 1.zrp"), folder = folder_.path().toStdString();
-    ASSERT_TRUE(ReplaceFile(path, kLong));
-    ASSERT_TRUE(ReplaceFile(path, kNew));
+    ASSERT_TRUE(WriteFile(path, kLong));
+    ASSERT_TRUE(WriteFile(path, kNew));
     for (const auto& none : {path + "\\dentro.zrp", folder, In(std::string(300, 'x')), std::string()}) {
-        EXPECT_FALSE(ReplaceFile(none, kOld)) << none;
-        EXPECT_EQ(ReadWholeFile(none, kLimit), std::nullopt) << none;
+        EXPECT_FALSE(WriteFile(none, kOld)) << none;
+        EXPECT_EQ(ReadFile(none, kLimit), std::nullopt) << none;
     }
-    EXPECT_EQ(ReadWholeFile(path, kLimit), kNew);
-    EXPECT_EQ(ReadWholeFile(path, 10), kNew.substr(0, 10));
+    EXPECT_EQ(ReadFile(path, kLimit), kNew);
+    EXPECT_EQ(ReadFile(path, 10), kNew.substr(0, 10));
     EXPECT_EQ(Names(), QStringList{"Año 1.zrp"});
 }
 
@@ -49,14 +49,14 @@ TEST_F(Files, OnAFullOrReadOnlyDiskStayAsTheyWere) {
         GTEST_SKIP() << "needs the right to mount a disk of its own";
     }
     const std::string path = In("partida.zrp");
-    EXPECT_TRUE(ReplaceFile(path, kOld));
+    EXPECT_TRUE(WriteFile(path, kOld));
     int others = 0;
-    while (others < 10 && ReplaceFile(In("relleno" + std::to_string(others)), kNew)) ++others;
-    EXPECT_FALSE(ReplaceFile(path, kNew));
+    while (others < 10 && WriteFile(In("relleno" + std::to_string(others)), kNew)) ++others;
+    EXPECT_FALSE(WriteFile(path, kNew));
     EXPECT_EQ(Names().size(), others + 1) << "nothing half written is left";
     EXPECT_EQ(mount(nullptr, disk, nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
-    EXPECT_FALSE(ReplaceFile(path, ""));
-    EXPECT_EQ(ReadWholeFile(path, kLimit), kOld);
+    EXPECT_FALSE(WriteFile(path, ""));
+    EXPECT_EQ(ReadFile(path, kLimit), kOld);
     umount(disk);
 }
 
@@ -65,10 +65,10 @@ TEST_F(Files, SurviveTheProgramBeingKilled) {
     const std::string path = In("partida.zrp");
     int killed = 0;
     for (int round = 0; round < kRounds; ++round) {
-        ASSERT_TRUE(ReplaceFile(path, kOld));
+        ASSERT_TRUE(WriteFile(path, kOld));
         const pid_t child = fork();
         if (child == 0) {
-            for (int i = 0; i < kSaves; ++i) ReplaceFile(path, i % 2 == 0 ? kLong : kOld);
+            for (int i = 0; i < kSaves; ++i) WriteFile(path, i % 2 == 0 ? kLong : kOld);
             _exit(0);
         }
         usleep(static_cast<useconds_t>(700 * round + 1));
@@ -76,7 +76,7 @@ TEST_F(Files, SurviveTheProgramBeingKilled) {
         int status = 0;
         waitpid(child, &status, 0);
         killed += WIFSIGNALED(status);
-        const auto bytes = ReadWholeFile(path, kLimit);
+        const auto bytes = ReadFile(path, kLimit);
         EXPECT_TRUE(bytes == kOld || bytes == kLong) << "round " << round;
     }
     EXPECT_GT(killed, kRounds / 2);

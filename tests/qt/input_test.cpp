@@ -36,7 +36,8 @@ TEST_F(InputTest, AClickSelectsACardAndADropOnTheBareTableLaysOne) {
                  {"card back to the bare table", back, BareTable(), 0},
                  {"own card to the bare table", own, BareTable(), 0}};
     for (const auto& c : cases) {
-        EXPECT_TRUE(Game.SlotHumano(0).Ocupado() && !Game.SlotMesa(2).Ocupado()) << "before " << c.What;
+        EXPECT_TRUE(Game.SlotsMano(Jugador::Humano)[0].Ocupado() && !Game.SlotsMesa()[2].Ocupado())
+            << "before " << c.What;
         QTest::mousePress(Window().windowHandle(), c.Button, {}, c.From);
         QTest::mouseMove(Window().windowHandle(), (c.From + c.To) / 2);
         QTest::mouseMove(Window().windowHandle(), c.To);
@@ -44,9 +45,9 @@ TEST_F(InputTest, AClickSelectsACardAndADropOnTheBareTableLaysOne) {
         EXPECT_EQ(Game.Suma(), c.Sum) << c.What;
         Game.EmprolijaDesktop();
     }
-    EXPECT_FALSE(Game.SlotHumano(0).Ocupado());
-    EXPECT_EQ(Game.SlotMesa(2).Carta(), Card(8, 'o'));
-    EXPECT_EQ(Game.SlotMesa(3).Carta(), Card(3, 'b'));  // the computer has moved
+    EXPECT_FALSE(Game.SlotsMano(Jugador::Humano)[0].Ocupado());
+    EXPECT_EQ(Game.SlotsMesa()[2].Carta(), Card(8, 'o'));
+    EXPECT_EQ(Game.SlotsMesa()[3].Carta(), Card(3, 'b'));  // the computer has moved
     EXPECT_TRUE(button.hasFocus());  // so that the space bar takes what the pointer has chosen
 }
 
@@ -64,12 +65,12 @@ TEST_F(InputTest, ADragThatABoxInterruptsLeavesTheCardInTheHand) {
     Key(Qt::Key_L, 46);  // there are no 15
     EXPECT_EQ(cardsUnderThePointer(), 0);
     QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
-    EXPECT_TRUE(Game.SlotHumano(0).Ocupado());
+    EXPECT_TRUE(Game.SlotsMano(Jugador::Humano)[0].Ocupado());
 
     drag();
     QTest::mouseClick(Window().windowHandle(), Qt::RightButton, {}, BareTable());
     QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
-    EXPECT_FALSE(Game.SlotHumano(0).Ocupado());
+    EXPECT_FALSE(Game.SlotsMano(Jugador::Humano)[0].Ocupado());
     EXPECT_EQ(cardsUnderThePointer(), 0);
 }
 

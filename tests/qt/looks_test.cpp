@@ -69,7 +69,7 @@ TEST(PictureFiles, AreReadByWhatTheyHoldOnceAndScaledCrisply) {
         {"svg.bmp", {svg, false}},        {"huge.bmp", {huge, false}},
         {"other.gif", {"GIF89a", false}},
     };
-    for (const auto& [name, file] : files) ASSERT_TRUE(ReplaceFile(path(name), file.first));
+    for (const auto& [name, file] : files) ASSERT_TRUE(WriteFile(path(name), file.first));
     ASSERT_EQ(mkfifo(folder.filePath("pipe.png").toLocal8Bit(), 0600), 0);
     ASSERT_TRUE(QFile::link("/dev/zero", folder.filePath("device.png")));
     ASSERT_TRUE(QFile::link(folder.filePath("pipe.png"), folder.filePath("link.png")));

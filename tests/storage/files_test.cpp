@@ -111,7 +111,7 @@ TEST(Archivos, OfPreferencesAreWrittenByteForByte) {
     Table table;
     Naipes->aNombrejugador("Íñigo \"el €\"\r\nzurdo");
     table.Window.fondop1img[0].Tag = "C:\\cartas\\dorso.jpg";
-    table.Window.Frame1.BackColor = SystemColor(kButtonFace);
+    table.Window.Frame1.BackColor = SystemColor(Palette::ButtonFace);
     EXPECT_EQ(SavedPreferences(table),
               "\"\xCD\xF1igo 'el \x80' zurdo\"\r\n\"Click Here\"\r\n32768\r\n-2147483633\r\n"
               "\"C:\\cartas\\dorso.jpg\"\r\n");
@@ -214,9 +214,9 @@ TEST(Partida, SavedBeforeTheGameMovedDealsWithItsOwnPictures) {
     Table table;
     for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Imagen(i, "D:\\antes.png");
     table.Lay({}, {}, {});
-    table.GiveMoveTo(clase::kHumano);
-    ASSERT_EQ(table.InHand(clase::kHumano).size(), 3U);
-    for (const int i : table.InHand(clase::kHumano)) EXPECT_EQ(Naipes->Mazo_Imagen(i), CardPicture(i));
+    table.GiveMoveTo(Jugador::Humano);
+    ASSERT_EQ(table.InHand(Jugador::Humano).size(), 3U);
+    for (const int i : table.InHand(Jugador::Humano)) EXPECT_EQ(Naipes->Mazo_Imagen(i), CardPicture(i));
 }
 
 TEST(Partida, AbrirComesBackUntilAFileIsReadOrThePlayerHasEnough) {

@@ -17,8 +17,8 @@ TEST(Keyboard, EveryKeyDoesWhatItSaysAndNoOther) {
             const bool ofHand = key == '2' || key == '3', lays = ofHand && shift == kShift;
             const bool selects = ofHand ? !lays : kTableKeys.find(static_cast<char>(key)) != kTableKeys.npos;
             EXPECT_EQ(table.Selected(), selects ? std::string(1, static_cast<char>(key)) : "");
-            EXPECT_EQ(table.Window.SlotHumano(1).Ocupado(), !(lays && key == '2'));
-            EXPECT_EQ(table.Window.SlotHumano(2).Ocupado(), !(lays && key == '3'));
+            EXPECT_EQ(table.Window.SlotsMano(Jugador::Humano)[1].Ocupado(), !(lays && key == '2'));
+            EXPECT_EQ(table.Window.SlotsMano(Jugador::Humano)[2].Ocupado(), !(lays && key == '3'));
             EXPECT_EQ(table.Desktop.Boxes.size(), key == 'L' ? 1U : 0U);  // the sum is not 15
         }
     }

@@ -10,7 +10,7 @@ namespace {
 using Texts = std::vector<std::string>;
 using Dialog = preferenciasfrm;
 
-constexpr ColorCode kRed = Rgb(255, 0, 0), kFace = SystemColor(kButtonFace);
+constexpr ColorCode kRed = Rgb(255, 0, 0), kFace = SystemColor(Palette::ButtonFace);
 
 // Those of the defaults that come with the game, but for what a test says.
 struct Values {

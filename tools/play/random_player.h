@@ -14,11 +14,11 @@ class RandomPlayer {
     int Below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
 
     void Act() {
-        const Slot any = window_.SlotDePosicion(Below(kPosiciones) + 1);
+        const Slot& any = window_.SlotDePosicion(Below(kPosiciones) + 1);
         const int what = Below(10);
         if (what == 0) return window_.Form_KeyDown(Below(256), Below(8));
         if (what == 1) return window_.Form_MouseMove(Below(12000), Below(9000));
-        if (what == 2) return window_.Frame1.DragDrop(window_.SlotHumano(Below(kLugaresMano)).Imagen);
+        if (what == 2) return window_.Frame1.DragDrop(window_.cartap2img.at(Below(kLugaresMano)));
         if (what == 3) return window_.LevantarBtn.Click();  // as "L" does
         if (what == 4) return any.Imagen.Click ? any.Imagen.Click() : void();
         window_.Form_KeyDown("123ASDFGHJKL"[Below(12)], 0);
@@ -31,7 +31,7 @@ class RandomPlayer {
 
 // False: no input on the table can change anything any more. So it must never be while the player is to move.
 inline bool CanAct(Playing& window) {
-    return window.TieneCartas(clase::kHumano) && !window.Bloqueado(clase::kHumano);
+    return window.TieneCartas(Jugador::Humano) && !window.Bloqueado(Jugador::Humano);
 }
 
 }  // namespace zarpel

@@ -12,14 +12,14 @@ void LayCards(Playing& window, const std::vector<int>& mesa, const std::vector<i
         Naipes->aMazo_Duenio(carta, duenio);
     };
     for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
-    for (int i = 0; i < kLugaresMesa; ++i) fill(window.SlotMesa(i), mesa, i, duenios::kLaMesa);
+    for (int i = 0; i < kLugaresMesa; ++i) fill(window.SlotsMesa()[i], mesa, i, duenios::kLaMesa);
     for (int i = 0; i < kLugaresMano; ++i) {
-        fill(window.SlotHumano(i), humano, i, duenios::kHumano);
-        fill(window.SlotCpu(i), cpu, i, duenios::kCpu);
-        window.fondop1img.at(static_cast<std::size_t>(i)).Visible = window.SlotCpu(i).Ocupado();
+        fill(window.SlotsMano(Jugador::Humano)[i], humano, i, kSignos.Humano.Duenio);
+        fill(window.SlotsMano(Jugador::Cpu)[i], cpu, i, kSignos.Cpu.Duenio);
+        window.fondop1img[i].Visible = window.cartap1img[i].Visible;
     }
     window.EmprolijaDesktop();
-    Reparto->aTurno(1);
+    Reparto->aTurno(kSignos.Cpu.Turno);
 }
 
 Table::Table(unsigned seed, bool humanFirst) : Desktop(seed) {
@@ -39,19 +39,19 @@ void Table::Lay(const std::vector<int>& mesa, const std::vector<int>& humano, co
     captions_.clear();
 }
 
-std::vector<int> Table::InHand(char clase) {
+std::vector<int> Table::CardsIn(std::span<const Slot> row) {
     std::vector<int> cards;
-    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-        const Slot slot = Window.SlotDePosicion(codigo);
-        if (slot.Clase == clase && slot.Ocupado()) cards.push_back(slot.Carta());
+    for (const Slot& slot : row) {
+        if (slot.Ocupado()) cards.push_back(slot.Carta());
     }
     return cards;
 }
 
 std::string Table::Selected() {
+    const auto hand = Window.SlotsMano(Jugador::Humano), mesa = Window.SlotsMesa();
     std::string keys;
-    for (int i = 0; i < kLugaresMano; ++i) keys.append(Window.SlotHumano(i).Elegido(), "123"[i]);
-    for (int i = 0; i < kLugaresMesa; ++i) keys.append(Window.SlotMesa(i).Elegido(), "ASDFGHJK"[i]);
+    for (int i = 0; i < kLugaresMano; ++i) keys.append(hand[i].Elegido(), "123"[i]);
+    for (int i = 0; i < kLugaresMesa; ++i) keys.append(mesa[i].Elegido(), "ASDFGHJK"[i]);
     return keys;
 }
 

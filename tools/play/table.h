@@ -33,17 +33,17 @@ struct Table {
     void Press(const std::string& keys, int shift = 0) {
         for (const char key : keys) Window.Form_KeyDown(key, shift);
     }
-    // Runs the turn decision as if it were this player's turn ('p' the human's, 'c' the computer's).
-    void GiveMoveTo(char clase) {
-        Reparto->aTurno(clase == clase::kCpu ? 1 : 0);
+    // Runs the turn decision as if it were this player's turn.
+    void GiveMoveTo(Jugador quien) {
+        Reparto->aTurno(kSignos[quien].Turno);
         Window.DecideTurno();
     }
     // The captions that cartellbl has shown since the last call of this function.
     std::vector<std::string> TakeCaptions() { return std::exchange(captions_, {}); }
 
-    // The indexes of the cards shown in a hand (any row, by its kind letter), or on the table, in slot order.
-    std::vector<int> InHand(char clase);
-    std::vector<int> OnTable() { return InHand(clase::kMesa); }
+    // The indexes of the cards shown in a hand, or on the table, in slot order.
+    std::vector<int> InHand(Jugador quien) { return CardsIn(Window.SlotsMano(quien)); }
+    std::vector<int> OnTable() { return CardsIn(Window.SlotsMesa()); }
 
     // The keys of the cards that are selected, those of the hand first.
     std::string Selected();
@@ -52,6 +52,8 @@ struct Table {
     Playing Window{Desktop};
 
   private:
+    static std::vector<int> CardsIn(std::span<const Slot> row);
+
     std::vector<std::string> captions_;
 };
 
