@@ -1,165 +1,225 @@
-// random_play [matches] [first seed]: plays that many whole matches at random, one a seed, and prints how
-// often each text was shown. A fault is printed with its seed; "random_play 1 SEED" plays that match again.
+// random_play [matches] [first seed]: plays that many whole matches at random, one a seed, before a referee,
+// and prints how often each caption and box was shown. A fault is printed with its seed; "random_play 1 SEED"
+// plays that match again.
 //
-// The player does anything that a hand can do at the table, sensible or not. After every event, and whenever
-// the game pauses or shows a box, the table must make sense.
+// The player does anything that a hand can do at the table, sensible or not, and now and then saves the match
+// and opens it again.
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
-#include <set>
+#include <random>
 #include <stdexcept>
+#include <utility>
 
-#include "tools/play/random_player.h"
-#include "tools/play/table.h"
+#include "tests/play/referee.h"
+#include "tools/play/installation.h"
 
-using namespace zarpel;
-
+namespace zarpel {
 namespace {
 
 constexpr int kMostEvents = 20000;         // far more than the longest match needs
 constexpr int kMatchesThatShowAll = 2000;  // so many must have shown everything that can happen
-std::map<std::string, int> shown;          // captions and texts of boxes: how often
 
-void Require(bool holds, const std::string& what) {
-    if (!holds) throw std::runtime_error(what);
+const std::string kMatch = "partida";  // file of the saved match
+
+std::map<std::string, int> shown;  // what was told: how often
+Draws draws;
+
+std::string Describe(const Message& box) {
+    std::string text = box.Text + ", icon " + std::to_string(static_cast<int>(box.Icon));
+    if (!box.Title.empty()) text += ", " + box.Title;
+    if (box.Buttons == BoxButtons::YesNo)
+        text += box.Preselected == Answer::Yes ? ", Yes or No" : ", No or Yes";
+    return text;
 }
+
+// The texts of a window as they are read: row by row, from left to right.
+std::string TextsOf(Container& container) {
+    std::map<std::pair<int, int>, std::string> texts;
+    for (Control* const child : container.Children) {
+        if (auto* const area = dynamic_cast<Frame*>(child)) return TextsOf(*area);
+        const auto* const label = dynamic_cast<Label*>(child);
+        if (label != nullptr && label->Visible) texts[{label->Top, label->Left}] = label->Caption;
+    }
+    std::string all;
+    for (const auto& [place, text] : texts) all += (all.empty() ? ": " : ", ") + text;
+    return all;
+}
+
+// Stops to look before a saved match is read: what lies beneath it by then is gone afterwards.
+class Installation : public InstalledDesktop {
+  public:
+    using InstalledDesktop::InstalledDesktop;
+    std::optional<std::string> ReadFile(const std::string& path, std::size_t limit) override {
+        if (path == kMatch) {
+            Calls.push_back("read " + path);
+            OnPause();
+        }
+        return InstalledDesktop::ReadFile(path, limit);
+    }
+};
 
 class RandomMatch {
   public:
-    explicit RandomMatch(unsigned seed) : table_(seed, seed % 2 == 0), player_(table_.Window, seed) {
-        table_.Desktop.OnPause = [this] { CheckCards(); };
-        table_.Desktop.OnBox = [this](const Message& box) {
-            CheckCards();
-            ++shown[box.Text];
-            over_ |= box.Text == "¿Jugar de nuevo?";
-            table_.Desktop.Answers = {Chance(50) ? Answer::Yes : Answer::No};
+    explicit RandomMatch(unsigned seed)
+        : name_("Ana " + std::to_string(seed)), desktop_(seed), random_(seed) {
+        std::string& preferences = desktop_.Files[PathOf("lastprop.dat")];
+        preferences.replace(0, preferences.find('\r'), '"' + name_ + '"');
+        desktop_.OnPause = [this] { Note(); };
+        desktop_.OnBox = [this](const Message& box) {
+            desktop_.Calls.back() = "box " + Describe(box);
+            Note();
+            log_.back().Yes = Chance(50);
+            desktop_.Answers = {log_.back().Yes ? Answer::Yes : Answer::No};
+        };
+        window_.cartellbl.Changed = [this] {
+            const std::string& caption = window_.cartellbl.Caption;
+            if (!caption.empty() && caption != caption_) desktop_.Calls.push_back(caption);
+            caption_ = caption;
         };
     }
 
     void Play() {
-        CheckWaiting();
-        for (int i = 0; !over_; ++i) {
-            Require(i < kMostEvents, "the match does not end");
-            try {
-                Chance(60) ? ActSensibly() : player_.Act();
-            } catch (const ScriptedDesktop::Ended&) {
-                return Require(over_, "the program ended in the middle of a match");
+        Do([this] { window_.Load(); }, &Referee::Starts);
+        for (int i = 0; !ended_; ++i) {
+            if (i == kMostEvents) throw std::runtime_error("the match does not end");
+            if (Chance(1)) SaveAndReopen();
+            const std::vector<int> capture = referee_.Capture();
+            if (!Chance(60)) {
+                ActAtRandom();
+            } else if (!capture.empty() && Chance(sense_)) {
+                for (int place = 0; place < kPlaces; ++place) {
+                    if (referee_.Now().Cards.at(static_cast<std::size_t>(place)).Chosen) Click(place);
+                }
+                for (const int place : capture) Click(place);
+                Press('L', 0);
+            } else {
+                Press('1' + Below(3), 1);
             }
-            CheckWaiting();
         }
+        if (ended_ != referee_.Over()) throw std::runtime_error("the program ended in the middle of a match");
     }
 
   private:
-    bool Chance(int percent) { return player_.Below(100) < percent; }
+    int Below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
+    bool Chance(int percent) { return Below(100) < percent; }
 
-    // Takes what there is to take, or lays a card. A player with less sense often lays without looking.
-    void ActSensibly() {
-        const std::vector<Slot> capture = FindCapture();
-        if (capture.empty() || (!Chance(sense_) && !window_.MesaLlena())) {
-            return window_.Form_KeyDown('1' + player_.Below(kLugaresMano), kShift);
+    void Note() {
+        log_.push_back({desktop_.TakeCalls(), See(window_, desktop_.Shown.contains(&window_))});
+        for (const std::string& told : log_.back().Told) ++shown[told];
+    }
+
+    // Lets the game have an input, and the referee judge what came of it.
+    template <class Input, class... Values>
+    void Do(Input input, void (Referee::*judge)(Values...), Values... values) {
+        desktop_.Modal = {[this](Form& form) {
+            desktop_.Calls.back() += TextsOf(form);
+            Note();
+            for (Control* const child : form.Children) {
+                if (auto* const button = dynamic_cast<Button*>(child)) button->Click();
+            }
+            if (desktop_.Shown.contains(&form))
+                throw std::runtime_error("the button does not close the window");
+        }};
+        try {
+            input();
+        } catch (const ScriptedDesktop::Ended&) {
+            ended_ = true;
         }
-        window_.EmprolijaDesktop();
-        for (const Slot& slot : capture) slot.Imagen.Click();
-        table_.Press("L");
+        Note();
+        (referee_.*judge)(values...);
     }
 
-    // A card of the hand and cards of the table that make 15, if there are any. Found by trying every set of
-    // cards, unlike the game.
-    std::vector<Slot> FindCapture() {
-        for (int i = 0; i < kLugaresMano; ++i) {
-            const Slot mano = window_.SlotsMano(Jugador::Humano)[i];
-            std::vector<Slot> cards = {mano};
-            if (mano.Ocupado() && Completes(cards, kSumaDeLevante - mano.Numero())) return cards;
+    void Press(int key, int shift) {
+        Do([&] { window_.Form_KeyDown(key, shift); }, &Referee::Key, key, shift);
+    }
+    void Click(int place) {
+        const auto i = static_cast<std::size_t>(place);
+        Image& image = place < kCpuHand     ? window_.mesaimg[i]
+                       : place < kHumanHand ? window_.cartap1img[i - kCpuHand]
+                                            : window_.cartap2img[i - kHumanHand];
+        Do([&] { image.Click ? image.Click() : void(); }, &Referee::Clicks, place);
+    }
+
+    void ActAtRandom() {
+        const int hand = Below(3), y = Below(9000);
+        switch (Below(10)) {
+            case 0:
+                return Press(Below(256), Below(8));
+            case 1:
+                return Do([&] { window_.Form_MouseMove(0, y); }, &Referee::Moves, y);
+            case 2:
+                return Do(
+                    [&] { window_.Frame1.DragDrop(window_.cartap2img.at(static_cast<std::size_t>(hand))); },
+                    &Referee::Drops, kHumanHand + hand);
+            case 3:
+                return Do([&] { window_.LevantarBtn.Click(); }, &Referee::Takes);
+            case 4:
+                return Click(Below(kPlaces));
+            default:
+                return Press("123ASDFGHJKL"[Below(12)], Below(8));
         }
-        return {};
     }
 
-    // Adds cards of the table, from place `from` on, that make `rest`; none, when there are none.
-    bool Completes(std::vector<Slot>& cards, int rest, int from = 0) {
-        for (int i = from; i < kLugaresMesa && rest > 0; ++i) {
-            const Slot mesa = window_.SlotsMesa()[i];
-            if (!mesa.Ocupado()) continue;
-            cards.push_back(mesa);
-            if (Completes(cards, rest - mesa.Numero(), i + 1)) return true;
-            cards.pop_back();
-        }
-        return rest == 0;
+    void SaveAndReopen() {
+        window_.GuardaJuego(kMatch);
+        Note();
+        referee_.Saves(desktop_.Files[kMatch]);
+        if (Chance(50)) Do([&] { window_.CargarJuego(kMatch); }, &Referee::Reopens);
     }
 
-    // Each card is in one place, and its owner tag says in which.
-    void CheckCards() {
-        std::set<int> seen;
-        for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-            const Slot slot = window_.SlotDePosicion(codigo);
-            if (!slot.Ocupado()) continue;
-            const int carta = slot.Carta();
-            Require(carta != 0 && slot.Imagen.Tag == std::to_string(carta), "a shown card has no index");
-            Require(seen.insert(carta).second, "a card is in two places");
-            Require(slot.Imagen.Picture == Naipes->Mazo_Imagen(carta), "a card shows another's picture");
-            const std::string& duenio = slot.De ? kSignos[*slot.De].Duenio : duenios::kLaMesa;
-            Require(Naipes->Mazo_Duenio(carta) == duenio, "a card is another's");
-        }
-        Require(CardsOf(duenios::kLaMesa) == std::ssize(table_.OnTable()),
-                "a card of the table is not there");
-    }
-
-    static int CardsOf(const std::string& duenio) {
-        int cards = 0;
-        for (int i = 1; i <= classnaipe::kCartas; ++i) cards += Naipes->Mazo_Duenio(i) == duenio;
-        return cards;
-    }
-
-    // The human is to move: can, and sees a table that agrees with itself.
-    void CheckWaiting() {
-        CheckCards();
-        int sum = 0, chosenOfHand = 0;
-        for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-            const Slot slot = window_.SlotDePosicion(codigo);
-            const Altura altura = slot.Alturas();
-            Require(slot.Imagen.Top == (slot.Elegido() ? altura.Levantada : altura.Reposo), "raised amiss");
-            Require(!slot.Imagen.Cover || slot.Imagen.Cover->Visible == slot.Ocupado(), "a back is amiss");
-            if (!slot.Elegido()) continue;
-            Require(slot.Ocupado() && slot.De != Jugador::Cpu, "what the human cannot select is selected");
-            sum += slot.Numero();
-            chosenOfHand += slot.De == Jugador::Humano;
-        }
-        const std::string& caption = window_.SumandoLbl.Caption;
-        Require(sum == window_.Suma() && (caption.empty() ? 0 : std::stoi(caption)) == sum, "wrong sum");
-        Require(sum <= kSumaDeLevante && chosenOfHand <= 1, "too much is selected");
-        Require(Naipes->Repartidas() + CardsOf(duenios::kNinguno) == classnaipe::kCartas,
-                "Repartidas does not count the cards");
-        Require(Reparto->Turno() == 1 && window_.TieneCartas(Jugador::Humano), "it is nobody's turn");
-        Require(!window_.MesaLlena() || !FindCapture().empty(), "the human cannot move");
-        for (const std::string& text : table_.TakeCaptions()) ++shown[text];
-    }
-
-    Table table_;
-    Playing& window_ = table_.Window;
-    RandomPlayer player_;
-    const int sense_ = Chance(50) ? 100 : player_.Below(5) * 25;  // percent of the captures that it takes
-    bool over_ = false;
+    const std::string name_;
+    Installation desktop_;
+    Playing window_{desktop_};
+    std::mt19937 random_;
+    std::string caption_;
+    std::deque<Moment> log_;
+    Referee referee_{log_, draws, name_};
+    const int sense_ = Chance(50) ? 100 : Below(5) * 25;  // percent of the captures that it takes
+    bool ended_ = false;
 };
 
+// Chance is fair when no count is further from its mean than five times its spread.
+bool Fair(int count, int all, double share) {
+    return std::abs(count - all * share) <= 5 * std::sqrt(all * share * (1 - share));
+}
+
+void RequireFairDraws() {
+    const int matches = draws.Dealers[0] + draws.Dealers[1];
+    bool fair = Fair(draws.Dealers[0], matches, 0.5);
+    for (const auto& counts : draws.Cards) {
+        int all = 0;
+        for (const int count : counts) all += count;
+        for (std::size_t i = 1; i < counts.size(); ++i) fair &= Fair(counts[i], all, 1 / 40.0);
+    }
+    if (!fair) throw std::runtime_error("the draws are not fair");
+}
+
+void RequireShown(const char* text) {
+    for (const auto& [told, times] : shown) {
+        if (told.find(text) != std::string::npos) return;
+    }
+    throw std::runtime_error(std::string("never shown: ") + text);
+}
+
 }  // namespace
+}  // namespace zarpel
 
 int main(int argc, char** argv) {
+    using namespace zarpel;
     const int matches = argc > 1 ? std::atoi(argv[1]) : 5000;
     const int first = argc > 2 ? std::atoi(argv[2]) : 1;
-    for (int seed = first; seed < first + matches; ++seed) {
-        try {
-            RandomMatch(static_cast<unsigned>(seed)).Play();
-        } catch (const std::exception& fault) {
-            std::printf("seed %d: %s\nplay it again with: random_play 1 %d\n", seed, fault.what(), seed);
-            return 1;
+    int seed = first;
+    try {
+        for (; seed < first + matches; ++seed) RandomMatch(static_cast<unsigned>(seed)).Play();
+        RequireFairDraws();
+        for (const char* text :
+             {"¡¡¡ZARPEL!!!", "Paso", "JUEGO EMPATADO", "La mesa está llena", "Ninguno de los dos"}) {
+            if (matches >= kMatchesThatShowAll) RequireShown(text);
         }
-    }
-    for (const auto& [text, times] : shown) std::printf("%8d  %s\n", times, text.c_str());
-    for (const char* text :
-         {"Esta es la ultima mano", "¡¡¡ZARPEL!!!", "Paso", "JUEGO EMPATADO", "La suma es mayor que 15",
-          "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno",
-          "Ninguno de los dos puede jugar: se reparte de nuevo"}) {
-        if (matches < kMatchesThatShowAll || shown[text] > 0) continue;
-        std::printf("never shown: %s\n", text);
+    } catch (const std::exception& fault) {
+        std::printf("seed %d: %s\nplay it again with: random_play 1 %d\n", seed, fault.what(), seed);
         return 1;
     }
 }
