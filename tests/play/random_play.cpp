@@ -19,7 +19,7 @@ namespace zarpel {
 namespace {
 
 constexpr int kMostEvents = 20000;         // far more than the longest match needs
-constexpr int kMatchesThatShowAll = 2000;  // so many must have shown everything that can happen
+constexpr int kMatchesThatShowAll = 1000;  // so many must have shown everything that can happen
 
 const std::string kMatch = "partida";  // file of the saved match
 
@@ -208,7 +208,7 @@ void RequireShown(const char* text) {
 
 int main(int argc, char** argv) {
     using namespace zarpel;
-    const int matches = argc > 1 ? std::atoi(argv[1]) : 5000;
+    const int matches = argc > 1 ? std::atoi(argv[1]) : 1000;
     const int first = argc > 2 ? std::atoi(argv[2]) : 1;
     int seed = first;
     try {
