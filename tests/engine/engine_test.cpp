@@ -57,14 +57,14 @@ TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
     const struct {
         const char* What;
         std::vector<int> Humano, Cpu;
-        char Mover;
+        Jugador Mover;
         Texts Captions;
     } cases[] = {
-        {"the computer", {kTakesEight}, {}, 'c', {cpu, yo}},
+        {"the computer", {kTakesEight}, {}, Jugador::Cpu, {cpu, yo}},
         {"the human, twice",
          {},
          {kStuck, kTakesNine},
-         'p',
+         Jugador::Humano,
          {cpu, "Me llevo estas cartas", yo, cpu, "He Jugado una carta", yo}},
     };
     for (const auto& c : cases) {
@@ -87,13 +87,13 @@ TEST(Puntos, StopAtWhatARecordHolds) {
         SCOPED_TRACE(c.Shown);
         Table table;
         table.Lay({}, {}, {});
-        for (int i = 1; i <= 40; ++i) Naipes->aMazo_Duenio(i, duenios::kCpu);
+        for (int i = 1; i <= 40; ++i) Naipes->aMazo_Duenio(i, "player1");
         Naipes->aRepartidas(40);
         Naipes->aPuntajecpu(c.Points);
         Reparto->aZarpelP1(c.Zarpels);
         table.Desktop.Answers = {Answer::No};
         try {
-            table.GiveMoveTo('p');
+            table.GiveMoveTo(Jugador::Humano);
         } catch (const ScriptedDesktop::Ended&) {
         }
         EXPECT_EQ(table.Window.puntajeP1Lbl.Caption.get(), c.Shown);

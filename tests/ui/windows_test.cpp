@@ -134,7 +134,7 @@ void ExpectAsInTable(const char* name, Form& form) {
 TEST(Windows, HoldWhatTheirTablesSay) {
     Table table;
     table.Lay({3, 15, 0, 0, 0, 0, 0, 40}, {0, 27}, {20});
-    table.Window.SlotMesa(7).Marca.Value = 1;
+    table.Window.CheckMesa[7].Value = 1;
     ExpectAsInTable("playing", table.Window);
     Resultadosfrm resultados(table.Desktop);
     ExpectAsInTable("resultados", resultados);
