@@ -9,8 +9,9 @@
 namespace zarpel {
 
 enum class FormBorder {
-    Sizable,      // ordinary window; it opens maximised, and resizing moves nothing
-    FixedDialog,  // fixed size, no minimise and maximise buttons, not in the task bar
+    Sizable,  // ordinary window; it opens maximised, and its Width and Height are always whole, as large as
+              // they fit in the middle of it
+    FixedDialog,  // of its Width and Height, no minimise and maximise buttons, not in the task bar
 };
 
 class Form : public Container {

@@ -59,6 +59,8 @@ QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
     }
     if (auto* const area = dynamic_cast<AreaView*>(object)) return new AccessibleArea(area);
     if (auto* const client = dynamic_cast<ClientArea*>(object)) return new AccessibleArea(client);
+    if (auto* const client = dynamic_cast<ClientArea*>(object->parent()); client && client->Table() == object)
+        return new AccessibleArea(client->Table());
     return nullptr;
 }
 

@@ -16,8 +16,8 @@
 namespace zarpel {
 namespace {
 
-// How long the window manager may go on placing a new window.
-constexpr int kSettleMs = 1000;
+// Of the main window's client area, in pixels for a twip: here every text can still be read.
+constexpr double kSmallest = 0.7 / kTwipsPerPixel;
 
 constexpr Qt::WindowFlags kDialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                          Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
@@ -48,7 +48,7 @@ class Builder : public ControlVisitor {
     void Visit(Button& button) override { Add<ButtonView>(button); }
     void Visit(Line& line) override { Add<LineView>(line); }
     void Visit(ToolBar& bar) override { Add<ToolBarView>(bar); }
-    void Visit(StatusBar& bar) override { Add<StatusBarView>(bar); }
+    void Visit(StatusBar& bar) override { Add<StatusBarView>(bar, parent_->parentWidget()); }
     void Visit(TabStrip& strip) override { Add<TabStripView>(strip); }
     void Visit(Frame& frame) override {
         QWidget* const view =
@@ -59,7 +59,12 @@ class Builder : public ControlVisitor {
   private:
     template <class ViewClass, class Model>
     ViewClass* Add(Model& control) {
-        auto* const view = new ViewClass(control, context_, parent_);
+        return Add<ViewClass>(control, parent_);
+    }
+
+    template <class ViewClass, class Model>
+    ViewClass* Add(Model& control, QWidget* parent) {
+        auto* const view = new ViewClass(control, context_, parent);
         views_.push_back(view);
         return view;
     }
@@ -83,15 +88,25 @@ QAbstractButton* ButtonOf(QWidget* window, bool Button::*role) {
 // --- Client area ---
 
 ClientArea::ClientArea(Form& form, const ViewContext& context, QWidget* parent)
-    : QWidget(parent), form_(form), context_(context) {
+    : QWidget(parent), form_(form), context_(context), table_(new QWidget(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);  // nothing needs to be painted below it
     setMouseTracking(true);
+    table_->setMouseTracking(true);  // what happens on its bare parts happens on the area
+}
+
+void ClientArea::Arrange() {
+    QRect table(QPoint(), context_.Scale.Pixels(Place{0, 0, form_.Width, form_.Height}).size());
+    table.moveTopLeft({(width() - table.width()) / 2, (height() - table.height()) / 2});
+    table_->setGeometry(table);
+    for (QObject* const child : children()) {
+        if (auto* const bar = dynamic_cast<StatusBarView*>(child)) bar->Sync();
+    }
 }
 
 void ClientArea::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ColorOf(form_.BackColor)); }
 
 void ClientArea::mouseMoveEvent(QMouseEvent* event) {
-    const QPointF at = event->position();
+    const QPointF at = event->position() - table_->pos();
     const int x = context_.Scale.Twips(at.x());
     const int y = context_.Scale.Twips(at.y());
     context_.Gate.Pass([this, x, y] { form_.Form_MouseMove(x, y); });
@@ -99,13 +114,6 @@ void ClientArea::mouseMoveEvent(QMouseEvent* event) {
 
 void ClientArea::mouseDoubleClickEvent(QMouseEvent*) {
     context_.Gate.Pass([this] { form_.Form_DblClick(); });
-}
-
-// Resizing moves nothing but what is docked to an edge.
-void ClientArea::resizeEvent(QResizeEvent*) {
-    for (QObject* const child : children()) {
-        if (auto* const bar = dynamic_cast<StatusBarView*>(child)) bar->Sync();
-    }
 }
 
 // --- Window ---
@@ -118,6 +126,8 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     client_ = new ClientArea(form, context_, this);
+    if (form.Border == FormBorder::Sizable)
+        client_->setMinimumSize((QSizeF(FormSize()) * kSmallest).toSize());
     layout->addWidget(client_, 1);
     form.Changed = [this] {
         setWindowTitle(QString::fromStdString(form_.Caption));
@@ -147,12 +157,13 @@ void FormWindow::Fill() {
     form_.Refresh();
     AddMenus();
     Builder builder(context_, views_);
-    builder.Build(form_, client_);
+    builder.Build(form_, client_->Table());
     builder.JoinCovers();
 }
 
 void FormWindow::Sync() {
     form_.Refresh();
+    client_->Arrange();
     for (View* const view : views_) {
         view->Follow();
         view->Sync();
@@ -179,7 +190,7 @@ void FormWindow::PlaceDialog() {
 // Key preview: the window sees a key before the focused control, which gets it afterwards all the same. A key
 // that repeats because it is held down counts once, so that it cannot fill the computer's pause with moves.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Expose) FitNow();
+    if (event->type() == QEvent::Expose && !updatesEnabled()) FitNow();
     if (event->type() == QEvent::WindowBlocked) {
         for (View* const view : views_) view->LetGo();
     }
@@ -200,20 +211,16 @@ QSize FormWindow::ClientSize() const {
 }
 
 void FormWindow::FitNow() {
-    if (!Fit || !windowHandle()->isExposed() || settled_.hasExpired()) return;
-    if (settled_.isForever()) settled_.setRemainingTime(kSettleMs);
+    if (!Fit || !windowHandle() || !windowHandle()->isExposed()) return;
     Fit();
     setUpdatesEnabled(true);
 }
 
-void FormWindow::resizeEvent(QResizeEvent*) {
-    if (windowHandle()) FitNow();
-}
-
 // Keys reach the native window first; it exists only once the widget is shown.
 void FormWindow::showEvent(QShowEvent*) {
-    if (Fit && settled_.isForever()) setUpdatesEnabled(false);
+    if (Fit && !windowHandle()->isExposed()) setUpdatesEnabled(false);
     windowHandle()->installEventFilter(this);
+    connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::FitNow, Qt::UniqueConnection);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -1,7 +1,6 @@
 // The window on the screen that shows one form of the game.
 #pragma once
 
-#include <QDeadlineTimer>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -11,20 +10,26 @@
 
 namespace zarpel {
 
-// The form's client area: its background, and what the pointer does there.
+// The form's client area: its background, what the pointer does there, and the table, on which the form's
+// controls lie. The table is always whole, and in the middle.
 class ClientArea : public QWidget {
   public:
     ClientArea(Form& form, const ViewContext& context, QWidget* parent);
+
+    QWidget* Table() const { return table_; }
+    // Gives the table its size and place, and what is docked to an edge.
+    void Arrange();
 
   protected:
     void paintEvent(QPaintEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
-    void resizeEvent(QResizeEvent*) override;
+    void resizeEvent(QResizeEvent*) override { Arrange(); }
 
   private:
     Form& form_;
     const ViewContext& context_;
+    QWidget* table_;
 };
 
 class FormWindow : public QWidget {
@@ -35,8 +40,8 @@ class FormWindow : public QWidget {
 
     // Makes the widgets of the form's controls. The window can be on its way to the screen meanwhile.
     void Fill();
-    // Called when the room that the window manager gives the window becomes known: when the window reaches
-    // the screen, and at each change within the next second. Nothing is painted before the first call.
+    // Called when the room that the form has on the screen becomes known, and whenever it changes. Nothing is
+    // painted before the first call.
     std::function<void()> Fit;
 
     // Brings every widget into step with its control; needed when the scale has changed.
@@ -49,11 +54,13 @@ class FormWindow : public QWidget {
 
     // Size of the client area, with the menu bar in its present font.
     QSize ClientSize() const;
+    // The form's own size, in twips.
+    QSize FormSize() const { return {form_.Width, form_.Height}; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent*) override;
-    void resizeEvent(QResizeEvent*) override;
+    void resizeEvent(QResizeEvent*) override { FitNow(); }
     void closeEvent(QCloseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
@@ -64,7 +71,6 @@ class FormWindow : public QWidget {
     Form& form_;
     const ViewContext context_;  // the views refer to it
     ClientArea* client_;
-    QDeadlineTimer settled_{QDeadlineTimer::Forever};
     std::vector<View*> views_;  // children of the window, which owns them
 };
 

@@ -86,6 +86,11 @@ void PictureStore::Prepare(const Look& look) {
     QThreadPool::globalInstance()->start([task] { (*task)(); });
 }
 
+void PictureStore::ForgetSizes() {
+    coming_.clear();
+    scaled_.clear();
+}
+
 QPixmap PictureStore::Scaled(const Look& look) {
     Prepare(look);
     if (const auto coming = coming_.find(look); coming != coming_.end()) {

@@ -42,6 +42,9 @@ class PictureStore {
     // Begins what Scaled will be asked for.
     void Prepare(const Look& look);
 
+    // Drops what was scaled so far: other sizes will be asked for.
+    void ForgetSizes();
+
     // The picture as it is to look. A null pixmap when Load did not take the path.
     QPixmap Scaled(const Look& look);
 

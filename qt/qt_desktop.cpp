@@ -52,8 +52,8 @@ QtDesktop::QtDesktop(std::string folder, std::string title)
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setApplicationDisplayName(QString());
     QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
+    QApplication::setFont(FontOf({}, scale_));
     InstallAccessibility();
-    UseScale(QApplication::primaryScreen()->availableSize());
 }
 
 QtDesktop::~QtDesktop() = default;
@@ -89,14 +89,11 @@ void QtDesktop::Show(Form& form) {
         Open(form, [this, &form, leave] { GateOf(form).Idle = [leave] { After(0, qApp, leave); }; }));
 }
 
-// The scale depends on the room that the maximised window really has, under its title and menu bar. The
-// table's widgets are made, and the game goes on to deal, while the window is on its way.
+// The scale depends on the room that the window really has, under its title and menu bar. The table's widgets
+// are made, and the game goes on to deal, while the window is on its way.
 void QtDesktop::ShowMaximised(FormWindow& window) {
-    window.Fit = [this, &window] {
-        UseScale(window.ClientSize());
-        UseScale(window.ClientSize());  // the menu bar has the font of the first
-        window.Sync();
-    };
+    UseScale(window.FormSize(), window.screen()->availableSize());
+    window.Fit = [this, &window] { Fit(window); };
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     window.Fill();
@@ -107,8 +104,17 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     });
 }
 
-void QtDesktop::UseScale(const QSize& client) {
-    scale_.FitTo(client);
+// The menu bar has the font of the table's scale, so it takes a second look to know the room, and a third to
+// fill it.
+void QtDesktop::Fit(FormWindow& window) {
+    for (int look = 0; look < 2; ++look) UseScale(window.FormSize(), window.ClientSize());
+    scale_.FitTo(window.ClientSize(), window.FormSize());
+    pictures_.ForgetSizes();
+    for (const Opened& opened : opened_) opened.Window->Sync();
+}
+
+void QtDesktop::UseScale(const QSize& form, const QSize& client) {
+    scale_.FitTo(client, form);
     style_->Use(scale_);
     const QFont font = FontOf({}, scale_);
     if (font != QApplication::font()) QApplication::setFont(font);

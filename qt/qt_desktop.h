@@ -68,7 +68,9 @@ class QtDesktop : public Desktop {
     // Destroys the form's window and what belongs to it.
     void Forget(const Form& form);
     void ShowMaximised(FormWindow& window);
-    void UseScale(const QSize& client);
+    void Fit(FormWindow& window);
+    // The scale at which a form of this size fits into a client area of that.
+    void UseScale(const QSize& form, const QSize& client);
     QWidget* TopWindow() const;
 
     std::string folder_, title_;

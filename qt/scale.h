@@ -10,19 +10,16 @@
 
 namespace zarpel {
 
-// The part of the main window that every screen must show, in twips.
-constexpr int kTableWidth = 12000;
-constexpr int kTableHeight = 8400;
 constexpr double kTwipsPerPixel = 15;  // at 96 dots an inch
 constexpr double kTwipsPerPoint = 20;
 
 class TableScale {
   public:
-    // The largest factor at which the table fits into a client area of this size (logical pixels), but never
-    // less than one pixel for 15 twips.
-    void FitTo(const QSize& client) {
-        factor_ = std::max(1 / kTwipsPerPixel, std::min(double(client.width()) / kTableWidth,
-                                                        double(client.height()) / kTableHeight));
+    // The largest factor at which a form of this size (twips) fits into a client area of that (logical
+    // pixels).
+    void FitTo(const QSize& client, const QSize& form) {
+        factor_ = std::min(double(std::max(1, client.width())) / form.width(),
+                           double(std::max(1, client.height())) / form.height());
     }
 
     // Logical pixels of so many twips, and back.
@@ -38,6 +35,8 @@ class TableScale {
 
     // Size in pixels of a picture drawn for 96 dots an inch.
     int Enlarged(int pixels) const { return Pixels(pixels * kTwipsPerPixel); }
+
+    bool operator==(const TableScale&) const = default;
 
   private:
     double factor_ = 1 / kTwipsPerPixel;

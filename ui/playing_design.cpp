@@ -70,6 +70,8 @@ void Playing::Design() {
     Children.clear();
     Caption = "Playing";
     BackColor = kTableGreen;
+    Width = 12000;
+    Height = 8400;
     CommonDialog.DefaultExt = "zrp";
     CommonDialog.Filter = "(*.zrp)|*.zrp";
     CommonDialog.Color = kBlack;  // the file name last chosen outlives the reload that opens it

@@ -35,7 +35,7 @@ class Mouse:
         click(table.find("Tomar Cartas"))
 
     def lay(self, place, card, table):
-        drag(card, table.area(2).corner)
+        drag(card, table.area(3).corner)
 
 
 def capture(table):

@@ -83,7 +83,7 @@ class Table(Node):
         return any(text.startswith("Juega ") and text != "Juega Cpu" for text in self.texts())
 
     def area(self, depth):
-        """The window's inside (1), or the table area within it (2); no card lies on its corner."""
+        """The window's inside (1), the table in it (2), or the rectangle on that (3); no card lies on its corner."""
         return [node for node in self.all() if node.role == Atspi.Role.PANEL][depth - 1]
 
     def points(self):

@@ -131,7 +131,7 @@ def preferences(program):
 def sees_colours(running):
     screen = Screen()
     table = running.table()
-    for depth, colour in ((1, 0x804020), (2, 0x102080)):
+    for depth, colour in ((1, 0x804020), (3, 0x102080)):
         wait(lambda: screen.pixel(*table.area(depth).corner) & 0xFFFFFF == colour, f"the colour {colour:06x}")
 
 

@@ -134,21 +134,30 @@ TEST_F(InputTest, WhatComesWhileAHandlerRunsIsHandedOverAfterwardsInOrder) {
     EXPECT_EQ(Game.Suma(), 4 + 1 + 2);             // nothing is handed to a window that is gone
 }
 
-TEST_F(InputTest, TheClockBarStaysAtTheBottomEdgeAndTheRestWhereItWas) {
+TEST_F(InputTest, TheTableIsWholeAndInTheMiddleOfEveryWindow) {
     auto& bar = ViewOf<StatusBarView>(Game.StatusBar1);
-    QWidget* const client = bar.parentWidget();
-    const auto pointAt = [&](int y) {
-        QTest::mouseMove(Window().windowHandle(), client->mapTo(&Window(), QPoint(3, y)));
-    };
-    pointAt(538);
-    EXPECT_TRUE(bar.isVisible());
-    QTest::qWait(1100);  // the window has settled
-    Window().resize(Window().width() + 100, Window().height() + 50);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(bar.geometry().bottom(), client->height() - 1);
-    EXPECT_EQ(ViewOf<ImageView>(Game.cartap2img[0]).pos(), QPoint(232, 424));
-    pointAt(536);
-    EXPECT_FALSE(bar.isVisible());
+    const QWidget& table = *ViewOf<AreaView>(Game.Frame1).parentWidget();
+    const QWidget& client = *table.parentWidget();
+    const struct {
+        QSize Window, Table;
+    } cases[] = {{{800, 0}, {800, 560}}, {{1600, 600}, {857, 600}}, {{600, 1200}, {600, 420}}};
+    for (const auto& c : cases) {
+        Window().resize(c.Window.expandedTo({0, 560}) + Window().size() - client.size());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(table.size(), c.Table);
+        EXPECT_LE((table.geometry().center() - client.rect().center()).manhattanLength(), 2);
+        const auto pointAt = [&](double twips) {
+            const double y = table.y() + twips * table.height() / 8400;
+            const QPoint at(table.x() + 1, int(std::lround(y)));
+            QTest::mouseMove(Window().windowHandle(), client.mapTo(&Window(), at));
+        };
+        pointAt(8070);
+        EXPECT_TRUE(bar.isVisible());
+        EXPECT_EQ(bar.geometry().right(), client.rect().right());
+        EXPECT_EQ(bar.geometry().bottom(), client.rect().bottom());
+        pointAt(8040);
+        EXPECT_FALSE(bar.isVisible());
+    }
 }
 
 }  // namespace
