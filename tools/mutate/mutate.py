@@ -20,8 +20,7 @@ PROJECT = pathlib.Path(__file__).resolve().parents[2]
 HIDDEN = re.compile(r'//[^\n]*|#include[^\n]*|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\])+\'')
 SWAPPED = {"==": "!=", "!=": "==", "<": "<=", "<=": "<", ">": ">=", ">=": ">", "&&": "||", "||": "&&", "+=": "-=",
            "-=": "+=", "++": "--", "--": "++", "+": "-", "-": "+", "true": "false", "false": "true"}
-# Two statements in a row that give different things values: their order says nothing.
-ASSIGNS = re.compile(r" *(?:const \w+ )?([\w.>-]+) = [^;]*;\n *(?!\1)(?:const \w+ )?[\w.>-]+ = ")
+SETS = re.compile(r" *(?:const \w+&? )?(\S+ = |\w+->a[A-Z]\w*\()")
 MEMORY = 4 << 30  # a change can make the game ask for more and more
 QUICK_MATCHES, SECONDS = 60, 120
 
@@ -37,6 +36,12 @@ def statements(code):
         inside = found[0]
         if all(inside.count(a) == inside.count(b) for a, b in ("()", "{}", "[]")):
             yield found.start(), found.end(), found[1]
+
+
+def apart(one, other):
+    """Do they give two different things values? Then their order says nothing."""
+    sets = SETS.match(one), SETS.match(other)
+    return all(sets) and sets[0][1] != sets[1][1]
 
 
 def changes(text):
@@ -59,7 +64,7 @@ def changes(text):
     before = None
     for begin, end, indent in statements(code):
         found.append((begin, end, "\n"))
-        if before and before[1:] == (begin, indent) and not ASSIGNS.match(text[before[0]:end]):
+        if before and before[1:] == (begin, indent) and not apart(text[before[0]:begin], text[begin:end]):
             found.append((before[0], end, text[begin:end] + text[before[0]:begin]))
         before = (begin, end, indent)
     return [change for change in found if text[change[0]:change[1]] != change[2]]
