@@ -81,7 +81,7 @@ TEST_F(Window, NothingOutsideTheFileIsFollowedOrLoaded) {
     }
 }
 
-TEST_F(Window, CtrlAndWheelZoomLettersAndPicturesAndKeepTheHistory) {
+TEST_F(Window, CtrlAndWheelZoomLettersAndPictures) {
     page.setSource(QUrl("baraja.html"));
     const auto wheel = [&](int notches) {
         QWheelEvent event({50, 50}, page.mapToGlobal(QPointF(50, 50)), {}, {0, 120 * notches}, Qt::NoButton,
@@ -97,8 +97,6 @@ TEST_F(Window, CtrlAndWheelZoomLettersAndPicturesAndKeepTheHistory) {
     EXPECT_EQ(page.Zoom(), 50);
     Press(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(page.Zoom(), 100);
-    Press(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(Shown(), "chm:/index.html");
 }
 
 TEST_F(Window, FindGoesRoundThePageAndEscapeLeavesStepByStep) {

@@ -20,7 +20,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 sys.path.append(str(pathlib.Path(__file__).parents[2] / "tools/speed"))
-from probe import Screen, processor_s  # noqa: E402, F401
+from probe import processor_s  # noqa: E402, F401
 
 DEADLINE = 60  # seconds that anything may take, on a slow machine
 CARD = re.compile(r"(\d+) de (\w+)")

@@ -2,12 +2,9 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "qt/files.h"
 
@@ -58,28 +55,6 @@ TEST_F(Files, OnAFullOrReadOnlyDiskStayAsTheyWere) {
     EXPECT_FALSE(WriteFile(path, ""));
     EXPECT_EQ(ReadFile(path, kLimit), kOld);
     umount(disk);
-}
-
-TEST_F(Files, SurviveTheProgramBeingKilled) {
-    constexpr int kRounds = 25, kSaves = 200;
-    const std::string path = In("partida.zrp");
-    int killed = 0;
-    for (int round = 0; round < kRounds; ++round) {
-        ASSERT_TRUE(WriteFile(path, kOld));
-        const pid_t child = fork();
-        if (child == 0) {
-            for (int i = 0; i < kSaves; ++i) WriteFile(path, i % 2 == 0 ? kLong : kOld);
-            _exit(0);
-        }
-        usleep(static_cast<useconds_t>(700 * round + 1));
-        kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        killed += WIFSIGNALED(status);
-        const auto bytes = ReadFile(path, kLimit);
-        EXPECT_TRUE(bytes == kOld || bytes == kLong) << "round " << round;
-    }
-    EXPECT_GT(killed, kRounds / 2);
 }
 
 }  // namespace
