@@ -22,6 +22,7 @@ constexpr int kMostEvents = 20000;         // far more than the longest match ne
 constexpr int kMatchesThatShowAll = 1000;  // so many must have shown everything that can happen
 
 const std::string kMatch = "partida";  // file of the saved match
+const std::string kName = "Añil";      // nickname of the preferences
 
 std::map<std::string, int> shown;  // what was told: how often
 Draws draws;
@@ -62,10 +63,8 @@ class Installation : public InstalledDesktop {
 
 class RandomMatch {
   public:
-    explicit RandomMatch(unsigned seed)
-        : name_("Ana " + std::to_string(seed)), desktop_(seed), random_(seed) {
-        std::string& preferences = desktop_.Files[PathOf("lastprop.dat")];
-        preferences.replace(0, preferences.find('\r'), '"' + name_ + '"');
+    explicit RandomMatch(unsigned seed) : desktop_(seed), random_(seed) {
+        Prefer(kName);
         desktop_.OnPause = [this] { Note(); };
         desktop_.OnBox = [this](const Message& box) {
             desktop_.Calls.back() = "box " + Describe(box);
@@ -111,8 +110,8 @@ class RandomMatch {
     }
 
     // Lets the game have an input, and the referee judge what came of it.
-    template <class Input, class... Values>
-    void Do(Input input, void (Referee::*judge)(Values...), Values... values) {
+    template <class Input, class... Takes, class... Values>
+    void Do(Input input, void (Referee::*judge)(Takes...), Values... values) {
         desktop_.Modal = {[this](Form& form) {
             desktop_.Calls.back() += TextsOf(form);
             Note();
@@ -166,16 +165,23 @@ class RandomMatch {
         window_.GuardaJuego(kMatch);
         Note();
         referee_.Saves(desktop_.Files[kMatch]);
-        if (Chance(50)) Do([&] { window_.CargarJuego(kMatch); }, &Referee::Reopens);
+        if (Chance(50)) return;
+        const std::string other = "Luz";
+        Prefer(other);
+        Do([&] { window_.CargarJuego(kMatch); }, &Referee::Reopens, other);
     }
 
-    const std::string name_;
+    void Prefer(const std::string& name) {
+        std::string& preferences = desktop_.Files[PathOf("lastprop.dat")];
+        preferences.replace(0, preferences.find('\r'), '"' + InFile(name) + '"');
+    }
+
     Installation desktop_;
     Playing window_{desktop_};
     std::mt19937 random_;
     std::string caption_;
     std::deque<Moment> log_;
-    Referee referee_{log_, draws, name_};
+    Referee referee_{log_, draws, kName};
     const int sense_ = Chance(50) ? 100 : Below(5) * 25;  // percent of the captures that it takes
     bool ended_ = false;
 };

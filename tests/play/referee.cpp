@@ -38,9 +38,14 @@ std::string Report(const std::vector<std::string>& told, const Seen& looks) {
 
 }  // namespace
 
-Referee::Referee(std::deque<Moment>& log, Draws& draws, const std::string& name) : log_(log), draws_(draws) {
-    now_.Name = name;
+std::string InFile(const std::string& text) {
+    const std::string letter = "ñ";
+    const std::size_t at = text.find(letter);
+    return at == std::string::npos ? text : text.substr(0, at) + '\xF1' + text.substr(at + letter.size());
 }
+
+Referee::Referee(std::deque<Moment>& log, Draws& draws, const std::string& name)
+    : log_(log), draws_(draws), preferred_(name) {}
 
 // --- What the player does ---
 
@@ -82,6 +87,7 @@ void Referee::Moves(int y) {
 
 void Referee::Match() {
     if (log_.empty()) throw std::runtime_error("no match begins");
+    now_.Name = preferred_;
     now_.Dealer = log_.front().Looks.Dealer;
     ++draws_.Dealers.at(static_cast<std::size_t>(now_.Dealer));
     for (const int who : {0, 1}) {
@@ -315,8 +321,9 @@ void Referee::Saves(const std::string& file) {
 
 // Beneath what is read, a fresh match begins; what the file does not hold is that match's. A back may lie
 // where no card is.
-void Referee::Reopens() {
-    Referee fresh(log_, draws_, now_.Name);
+void Referee::Reopens(const std::string& name) {
+    Referee fresh(log_, draws_, name);
+    preferred_ = name;
     fresh.Match();
     if (!log_.empty()) fresh.now_.Backs = log_.front().Looks.Backs;
     fresh.Expect("read partida");
@@ -348,7 +355,7 @@ std::string Referee::File() const {
         card(At(i));
         flag(At(i).Shown);
     }
-    text(now_.Name);
+    text(InFile(now_.Name));
     text(now_.Last);
     for (const int value :
          {now_.Dealt, now_.Zarpels[0], now_.Zarpels[1], now_.Dealer, now_.Score[0], now_.Score[1]}) {

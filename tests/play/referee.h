@@ -27,8 +27,12 @@ struct Draws {
     std::array<std::array<int, 41>, kPlaces> Cards{};  // by place and card index, in first distributions
 };
 
+// A text with at most one "ñ", as the game's files hold it.
+std::string InFile(const std::string& text);
+
 class Referee {
   public:
+    // `name`: the nickname of the preferences.
     Referee(std::deque<Moment>& log, Draws& draws, const std::string& name);
 
     // The inputs. A fault of the game ends each with an exception that says what was expected.
@@ -38,8 +42,8 @@ class Referee {
     void Takes();  // the button
     void Drops(int handPlace);
     void Moves(int y);
-    void Saves(const std::string& file);  // with what the game has written
-    void Reopens();
+    void Saves(const std::string& file);    // with what the game has written
+    void Reopens(const std::string& name);  // with this nickname in the preferences
 
     const Seen& Now() const { return now_; }
     // The places of a capture of the player, the card of the hand first; none when there is none.
@@ -79,6 +83,7 @@ class Referee {
     std::deque<Moment>& log_;
     Draws& draws_;
     Seen now_;
+    std::string preferred_;
     std::vector<std::string> told_;
     int passes_ = 0;
     bool over_ = false;

@@ -84,29 +84,6 @@ void Expect(Opened (*open)(const std::string&), const std::string& file, const L
     EXPECT_EQ(opened.Values, values);
 }
 
-TEST(Archivos, OfAMatchAreWrittenByteForByte) {
-    Table table;
-    table.Lay({3, 7, 27, 5, 16, 36, 8, 9}, {31, 32, 2}, {0, 12, 14});
-    Naipes->aNombrejugador("Añil");
-    Naipes->aRepartidas(28);
-    Naipes->aPuntajecpu(-3);
-    Naipes->aPrimermano(true);
-    Reparto->aUltimoqLevanta("player2");
-    Reparto->aZarpelP2(1);
-    table.Window.puntajeP1Lbl.Caption = "-3";
-    table.Window.cartap1img[0].Tag = "";
-    table.Window.mesaimg_Click(0);
-    const Lines lines = LinesOf(Saved(table));
-    const Lines begin = LinesOf(  // the labels, the places, the match, two cards
-        R"("-3" "0" "3" "" "31" #FALSE# #TRUE# "3" #TRUE# "12" "32" #TRUE# #TRUE# "7" #TRUE# )"
-        R"("14" "2" #TRUE# #TRUE# "27" #TRUE# "5" #TRUE# "16" #TRUE# "36" #TRUE# "8" #TRUE# "9" #TRUE# )"
-        "\"A\xF1il\" \"player2\" 28 0 1 0 -3 0 #FALSE# 1 "
-        R"("ninguno" "C:\Zarpel\carta1.png" 1 "espada" "player2" "C:\Zarpel\carta2.png" 2 "espada" )",
-        " ");
-    ASSERT_EQ(lines.size(), 201U);
-    EXPECT_EQ(Lines(lines.begin(), lines.begin() + 49), begin);
-}
-
 TEST(Archivos, OfPreferencesAreWrittenByteForByte) {
     Table table;
     Naipes->aNombrejugador("Íñigo \"el €\"\r\nzurdo");
@@ -141,41 +118,6 @@ TEST(Partida, CutAnywhereIsAppliedUpToTheCut) {
             left -= std::min(left, line.size() + 2);
         }
         Expect(OpenMatch, file.substr(0, bytes), read);
-    }
-}
-
-// A record of a program's play from here on. The selection is no part of a saved match.
-Texts PlayOn(Table& table, unsigned seed) {
-    table.Window.EmprolijaDesktop();
-    table.Desktop.Seed(9);
-    table.Desktop.TakeCalls();
-    RandomPlayer player(table.Window, seed);
-    for (int i = 0; i < 80; ++i) player.Act();
-    Texts record = table.Desktop.TakeCalls();
-    record.push_back(Saved(table));
-    return record;
-}
-
-TEST(Partida, ComesBackAndGoesOnAsItWas) {
-    for (unsigned moment = 0; moment < 60; ++moment) {
-        SCOPED_TRACE(moment);
-        std::optional<Table> table(moment);
-        Naipes->aNombrejugador(moment % 2 == 0 ? "Humano" : "Ωmega");
-        RandomPlayer player(table->Window, moment);
-        for (unsigned i = 0; i < moment * 7; ++i) player.Act();
-        const std::string file = Saved(*table);
-        const Texts record = PlayOn(*table, moment);
-
-        table.emplace(moment + 100);
-        table->Desktop.Files[kPath] = file;
-        table->Desktop.Chosen = {kPath};
-        table->Window.abrirmnu.Click();
-        ASSERT_EQ(Saved(*table), file);
-        for (const Label* name : {&table->Window.namelbl, &table->Window.Label2}) {
-            EXPECT_EQ(name->Caption.get(), Naipes->Nombrejugador());
-        }
-        ExpectBacksOverCards(*table);
-        ASSERT_EQ(PlayOn(*table, moment), record);
     }
 }
 
