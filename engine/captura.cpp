@@ -72,7 +72,7 @@ void Mesa::Levanta(const std::string& duenio) {
     Reparto->aUltimoqLevanta(duenio);
     LevantarBtn.Enabled = false;
     SumandoLbl.Visible = false;
-    pasosSeguidos_ = 0;
+    haPasado_.reset();
     DecideTurno();
 }
 
@@ -80,9 +80,9 @@ void Mesa::SumaZarpel(const std::string& duenio) {
     if (std::ranges::any_of(SlotsMesa(), &Slot::Ocupado)) return;
     desktop_.Show({.Text = "¡¡¡ZARPEL!!!", .Icon = BoxIcon::Exclamation});
     if (DeDuenio(duenio) == Jugador::Cpu) {
-        Reparto->aZarpelP1(static_cast<std::int16_t>(Reparto->ZarpelP1() + 1));
+        Reparto->aZarpelP1(Mas(Reparto->ZarpelP1(), 1));
     } else {
-        Reparto->aZarpelP2(static_cast<std::int16_t>(Reparto->ZarpelP2() + 1));
+        Reparto->aZarpelP2(Mas(Reparto->ZarpelP2(), 1));
     }
 }
 

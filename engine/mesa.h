@@ -143,6 +143,10 @@ class Mesa {
     virtual void MuestraResultados(const Matriz& matriz) = 0;
 
   protected:
+    // Gives the card's record the path of the game's own picture when the one it has cannot be loaded, as in
+    // a match saved before the game moved.
+    void AseguraImagen(int carta);
+
     Desktop& desktop_;
 
   private:
@@ -150,13 +154,12 @@ class Mesa {
     void TurnoHumano();
     void TurnoCpu();
     void DaCarta(int codigo);
-    bool MuestraCarta(int codigo, int carta);
-    void Pasa();
+    void Pasa(Jugador quien);
     void Elige(const Slot& slot);
 
     std::vector<Slot> slots_;
-    // Passes since a card was last played or dealt. Two in a row mean that nobody can move.
-    int pasosSeguidos_ = 0;
+    // Who has passed since a card was last played or dealt. When the other passes too, nobody can move.
+    std::optional<Jugador> haPasado_;
 };
 
 }  // namespace zarpel

@@ -119,9 +119,10 @@ void Mesa::DecideTurno() {
             return CuentaPuntos();
         }
         SeReparte();
-        Naipes->aPrimermano(false);
-        if (ManosVacias(*this)) return DecideTurno();  // the stock was empty: the deal is over
     }
+    // In a changed file it can be true although the hands hold cards; it would give one player every turn.
+    Naipes->aPrimermano(false);
+    if (ManosVacias(*this)) return DecideTurno();  // the stock was empty: the deal is over
     if (DeTurno(Reparto->Turno()) == Jugador::Humano) return TurnoHumano();
     TurnoCpu();
 }
@@ -129,22 +130,22 @@ void Mesa::DecideTurno() {
 void Mesa::TurnoHumano() {
     cartellbl.Caption = "Juega " + Naipes->Nombrejugador();
     Reparto->aTurno(kSignos.Cpu.Turno);
-    if (!TieneCartas(Jugador::Humano)) return Pasa();
+    if (!TieneCartas(Jugador::Humano)) return Pasa(Jugador::Humano);
     if (!Bloqueado(Jugador::Humano)) return;
     desktop_.Show({.Text = "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno",
                    .Icon = BoxIcon::Information});
-    Pasa();
+    Pasa(Jugador::Humano);
 }
 
 void Mesa::TurnoCpu() {
     cartellbl.Caption = "Juega Cpu";
     Reparto->aTurno(kSignos.Humano.Turno);
-    if (!TieneCartas(Jugador::Cpu)) return Pasa();
+    if (!TieneCartas(Jugador::Cpu)) return Pasa(Jugador::Cpu);
     TurnoPc();
 }
 
 void Mesa::SeReparte() {
-    pasosSeguidos_ = 0;
+    haPasado_.reset();
     SetPantalla();
     int codigo = Naipes->Primermano() ? 1 : kPrimerCodigoCpu;
     while (codigo <= kUltimoCodigoHumano && Naipes->Repartidas() <= Naipes->CantCartas() && !MazoVacio()) {
@@ -159,19 +160,19 @@ void Mesa::SeReparte() {
 void Mesa::DaCarta(int codigo) {
     const int carta = SacaCarta(desktop_);
     Naipes->aMazo_Duenio(carta, DuenioEn(SlotDePosicion(codigo)));
-    if (!MuestraCarta(codigo, carta)) {
-        // A saved match names the pictures where they were on the day it was saved.
-        Naipes->aMazo_Imagen(carta, desktop_.PathOf(Naipes->LoadImage(carta)));
-        if (!MuestraCarta(codigo, carta)) {
-            ErrorGrave(desktop_, "No se puede cargar la imagen " + Naipes->Mazo_Imagen(carta));
-        }
+    AseguraImagen(carta);
+    const std::string& imagen = Naipes->Mazo_Imagen(carta);
+    if (!UpdateImagenDesktop(codigo, imagen, carta)) {
+        ErrorGrave(desktop_, "No se puede cargar la imagen " + imagen);
     }
     Naipes->aRepartidas(static_cast<std::int16_t>(Naipes->Repartidas() + 1));
 }
 
-bool Mesa::MuestraCarta(int codigo, int carta) {
+void Mesa::AseguraImagen(int carta) {
     const std::string& imagen = Naipes->Mazo_Imagen(carta);
-    return !imagen.empty() && UpdateImagenDesktop(codigo, imagen, carta);
+    const std::string propia = desktop_.PathOf(Naipes->LoadImage(carta));
+    if (imagen == propia || (!imagen.empty() && desktop_.LoadPicture(imagen))) return;
+    Naipes->aMazo_Imagen(carta, propia);
 }
 
 void Mesa::Juega(Image& Source) {
@@ -182,7 +183,7 @@ void Mesa::Juega(Image& Source) {
     Source.Visible = false;
     libre->Imagen.Visible = true;
     AsignoANaipe(libre->Carta(), duenios::kLaMesa);
-    pasosSeguidos_ = 0;
+    haPasado_.reset();
     DecideTurno();
 }
 

@@ -8,7 +8,6 @@
 namespace zarpel {
 namespace {
 
-constexpr int kPasosDeLosDos = 2;
 constexpr unsigned kConjuntos = 1U << kLugaresMesa;  // sets of table places: bit i stands for place i
 
 // The places of a set, or none when one of them is empty.
@@ -47,8 +46,11 @@ bool Mesa::Bloqueado(Jugador quien) const {
     return TieneCartas(quien) && MesaLlena() && Capturas(quien).empty();
 }
 
-void Mesa::Pasa() {
-    if (++pasosSeguidos_ < kPasosDeLosDos) return DecideTurno();
+void Mesa::Pasa(Jugador quien) {
+    if (haPasado_ != Otro(quien)) {
+        haPasado_ = quien;
+        return DecideTurno();
+    }
     desktop_.Show(
         {.Text = "Ninguno de los dos puede jugar: se reparte de nuevo", .Icon = BoxIcon::Information});
     SigueOtroReparto();

@@ -1,7 +1,6 @@
 // End of a deal, its count, and the end of the match.
 #include <algorithm>
 #include <array>
-#include <cstdint>
 
 #include "engine/mesa.h"
 #include "engine/zarpelfunc.h"
@@ -17,11 +16,6 @@ constexpr std::array kPorMayoria = {&Cuenta::Cartas, &Cuenta::Oros, &Cuenta::Sie
 int Puntos(const Cuenta& suya, const Cuenta& ajena) {
     return suya.Zarpels + static_cast<int>(std::ranges::count_if(
                               kPorMayoria, [&](auto cual) { return suya.*cual > ajena.*cual; }));
-}
-
-// The points of a saved match may be as many as a record holds; they never wrap around.
-std::int16_t Mas(std::int16_t puntaje, int puntos) {
-    return static_cast<std::int16_t>(std::min<int>(puntaje + puntos, INT16_MAX));
 }
 
 Matriz Cuentas() {

@@ -54,7 +54,7 @@ void Mesa::TurnoPc() {
     const bool pasa = MesaLlena();
     cartellbl.Caption = pasa ? "Paso" : "He Jugado una carta";
     desktop_.Pause(kPausaMs);
-    if (pasa) return Pasa();
+    if (pasa) return Pasa(Jugador::Cpu);
     Juega(CartaQueDeja(*this).Imagen);
 }
 

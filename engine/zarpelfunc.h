@@ -2,6 +2,7 @@
 // start and when a saved match is opened) and live until the next load.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -13,5 +14,8 @@ namespace zarpel {
 extern std::optional<classnaipe> Naipes;
 extern std::optional<classzarpel> Reparto;
 extern std::string ArchivoNaipes;  // full path of the card list file
+
+// The sum, or the end of what a record holds: a saved match may stand at either end already.
+std::int16_t Mas(std::int16_t antes, int mas);
 
 }  // namespace zarpel

@@ -5,9 +5,9 @@
 namespace zarpel {
 namespace {
 
-// Far more than the game ever writes. What lies beyond counts as missing, so that a huge file costs no more
-// time and memory than this.
-constexpr std::size_t kLongestFile = std::size_t{4} << 20;
+// Far more than a match takes (about 7 KB). What lies beyond counts as missing, so that no text of a file is
+// so long that it slows the game down.
+constexpr std::size_t kLongestFile = std::size_t{64} << 10;
 
 }  // namespace
 

@@ -1,11 +1,24 @@
 // The files that the main window reads and writes.
 #include <array>
+#include <charconv>
+#include <cstdint>
 
 #include "engine/zarpelfunc.h"
 #include "storage/layouts.h"
 #include "ui/playing.h"
 
 namespace zarpel {
+namespace {
+
+// True for what a record's points can be, written as the game writes it.
+bool EsPuntaje(const std::string& texto) {
+    std::int16_t puntos = 0;
+    const char* const fin = texto.data() + texto.size();
+    const auto [hasta, error] = std::from_chars(texto.data(), fin, puntos);
+    return error == std::errc() && hasta == fin;
+}
+
+}  // namespace
 
 Fields Playing::Preferencias() {
     return PreferenceFields({Toolbar1.Tag, BackColor, Frame1.BackColor, fondop1img[0].Tag});
@@ -47,24 +60,31 @@ bool Playing::LeeJuego(const std::string& filename) {
     std::array<bool, kLugaresMano> dorsos{};
     for (std::size_t i = 0; i < dorsos.size(); ++i) dorsos.at(i) = fondop1img.at(i).Visible;
     for (Image& dorso : fondop1img) dorso.Visible = true;
-    const bool leido = LoadFile(desktop_, filename, MatchFields(*this)) && RedibujaCartas();
+    const bool completo = LoadFile(desktop_, filename, MatchFields(*this));
+    const bool dibujado = RedibujaCartas();
     for (std::size_t i = 0; i < dorsos.size(); ++i) {
         fondop1img.at(i).Visible = dorsos.at(i) || cartap1img.at(i).Visible;
     }
-    return leido;
+    if (!EsPuntaje(puntajeP1Lbl.Caption)) puntajeP1Lbl.Caption = std::to_string(Naipes->Puntajecpu());
+    if (!EsPuntaje(puntajeP2Lbl.Caption)) puntajeP2Lbl.Caption = std::to_string(Naipes->Puntajehumano());
+    return completo && dibujado;
 }
 
-// Loads the picture of the card that each place names, whether the place is shown or not. False at the first
-// place that names no card, or whose picture cannot be loaded. A hidden place with an empty Tag has not held
-// a card since the window was made: there is nothing to draw.
+// Loads the picture of the card that each place names, whether the place is shown or not. A place that names
+// no card, or one whose picture cannot be loaded, is emptied, and the answer is false. A hidden place with an
+// empty Tag has not held a card since the window was made: there is nothing to draw.
 bool Playing::RedibujaCartas() {
+    bool todas = true;
+    for (int i = 1; i <= Naipes->CantCartas(); ++i) AseguraImagen(i);
     for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-        const Slot slot = SlotDePosicion(codigo);
+        const Slot& slot = SlotDePosicion(codigo);
         if (slot.Imagen.Tag.get().empty() && !slot.Ocupado()) continue;
         const int carta = slot.Carta();
-        if (carta == 0 || !UpdateImagenDesktop(codigo, Naipes->Mazo_Imagen(carta), carta)) return false;
+        if (carta != 0 && UpdateImagenDesktop(codigo, Naipes->Mazo_Imagen(carta), carta)) continue;
+        slot.Imagen.Visible = false;
+        todas = false;
     }
-    return true;
+    return todas;
 }
 
 }  // namespace zarpel

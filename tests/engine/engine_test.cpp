@@ -53,14 +53,16 @@ TEST(Instalacion, EndsTheProgramWhenTheCardListOrACardIsDamaged) {
 // A file changed by hand can leave a player without cards: who has none passes without a word.
 TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
     constexpr int kStuck = Card(8, 'o'), kTakesNine = Card(6, 'e'), kTakesEight = Card(7, 'o');
-    const std::string cpu = "Juega Cpu", yo = "Juega Humano";
+    const std::string cpu = "Juega Cpu", yo = "Juega Humano", reparte = "Reparte Humano - Juega Cpu";
     const struct {
         const char* What;
         std::vector<int> Humano, Cpu;
         Jugador Mover;
         Texts Captions;
+        bool Begins = false;  // as if nothing had been dealt yet
     } cases[] = {
         {"the computer", {kTakesEight}, {}, Jugador::Cpu, {cpu, yo}},
+        {"the computer, to begin", {kTakesEight}, {}, Jugador::Cpu, {reparte, cpu, yo}, true},
         {"the human, twice",
          {},
          {kStuck, kTakesNine},
@@ -71,18 +73,24 @@ TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
         SCOPED_TRACE(c.What);
         Table table;
         table.Lay({2, 3, 8, 9, 19, 29, 39, 18}, c.Humano, c.Cpu);
+        Naipes->aPrimermano(c.Begins);
+        Naipes->aLaMano(1);
         table.GiveMoveTo(c.Mover);
         EXPECT_EQ(table.TakeCaptions(), c.Captions);
         EXPECT_TRUE(table.Desktop.Boxes.empty());
     }
 }
 
-// Points as a file changed by hand can hold them, at both ends of what a record holds.
+// Points, and zarpels before one more, as a file changed by hand can hold them.
 TEST(Puntos, StopAtWhatARecordHolds) {
     const struct {
         std::int16_t Points, Zarpels;
         const char* Shown;
-    } cases[] = {{32767, 0, "32767"}, {32766, 2, "32767"}, {-32767, 1, "-32762"}};
+    } cases[] = {{32767, -1, "32767"},
+                 {32766, 1, "32767"},
+                 {-32767, 0, "-32762"},
+                 {-32767, -11, "-32768"},
+                 {-32767, 32767, "4"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Shown);
         Table table;
@@ -91,6 +99,7 @@ TEST(Puntos, StopAtWhatARecordHolds) {
         Naipes->aRepartidas(40);
         Naipes->aPuntajecpu(c.Points);
         Reparto->aZarpelP1(c.Zarpels);
+        table.Window.SumaZarpel("player1");
         table.Desktop.Answers = {Answer::No};
         try {
             table.GiveMoveTo(Jugador::Humano);

@@ -16,6 +16,7 @@ const std::string kLastprop = PathOf("lastprop.dat");
 const std::string kContinue = "Esta accion terminara con el juego actual, continuar?";
 const std::string kDamaged = "El archivo no existe o esta dañado";
 const std::string kNoPreferences = "El archivo de propiedades no existe o esta dañado";
+const std::string kGone = CardPicture(7);  // a file of the game's that is lost while a match is opened
 const std::string kOpen = "open (*.zrp)|*.zrp ";
 
 Lines LinesOf(const std::string& file, const std::string& separator = "\r\n") {
@@ -37,8 +38,13 @@ std::string SavedPreferences(Table& table) {
     return table.Desktop.Files[kLastprop];
 }
 
-// The computer's cards are never seen in its hand.
-void ExpectBacksOverCards(const Table& table) {
+// Each place shows the card that it holds, and the computer's are never seen in its hand.
+void ExpectATrueTable(const Table& table) {
+    for (const Slot& slot : table.Window.Slots()) {
+        if (!slot.Ocupado()) continue;
+        EXPECT_NE(slot.Carta(), 0);
+        EXPECT_EQ(slot.Imagen.Picture.get(), Naipes->Mazo_Imagen(std::max(1, slot.Carta())));
+    }
     for (std::size_t i = 0; i < table.Window.fondop1img.size(); ++i) {
         EXPECT_TRUE(table.Window.fondop1img.at(i).Visible || !table.Window.cartap1img.at(i).Visible);
     }
@@ -54,13 +60,17 @@ struct Opened {
 Opened OpenMatch(const std::string& file) {
     Table table;
     std::string values;
+    table.Desktop.OnPause = [&] { table.Desktop.Files.erase(kGone); };
     table.Desktop.Files[kPath] = file;
     table.Desktop.Draws = {0.9};  // the computer moves first, and plays a card
     table.Desktop.Answers = {Answer::No};
-    table.Desktop.OnBox = [&](const Message&) { values = values.empty() ? Saved(table) : values; };
+    table.Desktop.OnBox = [&](const Message&) {
+        ExpectATrueTable(table);
+        values = values.empty() ? Saved(table) : values;
+    };
     table.Window.CargarJuego(kPath);
     EXPECT_TRUE(CanAct(table.Window)) << file.substr(0, 400);
-    ExpectBacksOverCards(table);
+    ExpectATrueTable(table);
     return {LinesOf(values.empty() ? Saved(table) : values), table.Desktop.TakeBoxTexts()};
 }
 
@@ -121,34 +131,43 @@ TEST(Partida, CutAnywhereIsAppliedUpToTheCut) {
     }
 }
 
-// Line 4 is the card of a shown place, 34 counts cards, 40 is the flag of the first distribution, 43 and 51
-// are pictures of cards not shown and shown.
+// Lines 1 and 2 are the points shown, 4 and 6 a card and whether it is, 34 counts cards, 40 is the flag of
+// the first distribution, 43 and 87 are pictures of cards, the second shown.
 TEST(Partida, LinesChangedByHandAreReadOrRefused) {
+    using Changes = std::map<std::size_t, std::string>;  // of lines, from 1
+    enum class Outcome { Opens, Refuses, Stops };        // stops: nothing from that line on is read
+    const std::string away = "\"C:\\no\\esta.png\"", shown = "\"" + CardPicture(12) + "\"";
     const struct {
-        std::size_t Line;  // from 1
-        std::string Text;
-        std::string ReadAs;  // empty: refused
-        bool Drawable = true;
-    } cases[] = {{4, "\" 7abc\"", "\"7\""},
-                 {4, "\"0\"", "\"0\"", false},
-                 {4, "\"41\"", "\"41\"", false},
-                 {4, "\"\"", "\"\"", false},
-                 {34, "-32768", "-32768"},
-                 {34, "-32769", ""},
-                 {34, "32768", ""},
-                 {40, "#TRUE#", "#FALSE#"},
-                 {43, "\"C:\\no\\esta.png\"", "\"C:\\no\\esta.png\""},
-                 {51, "\"C:\\no\\esta.png\"", "\"C:\\no\\esta.png\"", false}};
+        Changes File, Read;
+        Outcome Then;
+    } cases[] = {
+        {{{1, "\"\""}, {2, "\"1x\""}}, {{1, "\"0\""}, {2, "\"0\""}}, Outcome::Opens},
+        {{{1, "\"-32768\""}, {2, "\"32768\""}}, {{1, "\"-32768\""}, {2, "\"0\""}}, Outcome::Opens},
+        {{{4, "\" 12abc\""}}, {{4, "\"12\""}}, Outcome::Opens},
+        {{{4, "\"0\""}}, {{4, "\"0\""}, {6, "#FALSE#"}}, Outcome::Refuses},
+        {{{4, "\"41\""}}, {{4, "\"41\""}, {6, "#FALSE#"}}, Outcome::Refuses},
+        {{{4, "\"\""}}, {{4, "\"\""}, {6, "#FALSE#"}}, Outcome::Refuses},
+        {{{4, "\"7\""}}, {{4, "\"7\""}, {6, "#FALSE#"}}, Outcome::Refuses},  // its picture is gone
+        {{{34, "-32768"}}, {{34, "-32768"}}, Outcome::Opens},
+        {{{34, "-32769"}}, {{34, ""}}, Outcome::Stops},
+        {{{34, "32768"}}, {{34, ""}}, Outcome::Stops},
+        {{{40, "#TRUE#"}}, {{40, "#FALSE#"}}, Outcome::Opens},
+        {{{43, away}, {87, "\"\""}}, {{43, "\"" + CardPicture(1) + "\""}, {87, shown}}, Outcome::Opens},
+    };
     Table table;
     table.Lay({3, 15}, {32, 31}, {12, 14});
     const Lines saved = LinesOf(Saved(table));
-    for (const auto& [line, text, readAs, drawable] : cases) {
-        Lines read = saved;
-        read[line - 1] = readAs;
-        if (readAs.empty()) read.resize(line - 1);
+    const auto changed = [&saved](const Changes& changes) {
+        Lines lines = saved;
+        for (const auto& [line, text] : changes) lines[line - 1] = text;
+        return lines;
+    };
+    for (const auto& c : cases) {
+        Lines read = changed(c.Read);
+        if (c.Then == Outcome::Stops) read.resize(c.Read.begin()->first - 1);
         std::string file;
-        for (const std::string& value : saved) file += (&value == &saved[line - 1] ? text : value) + "\r\n";
-        Expect(OpenMatch, file, read, drawable);
+        for (const std::string& value : changed(c.File)) file += value + "\r\n";
+        Expect(OpenMatch, file, read, c.Then != Outcome::Refuses);
     }
 }
 
@@ -206,7 +225,7 @@ TEST(Preferencias, TakeEffectAsTheyAreRead) {
         {"\"a\r\nb\",b,3,4,c", {"\"a b\"", "\"b\"", "3", "4", "\"c\""}},
         {{"a\0a,\x80\x81\x9D,3,4,c", 13}, {{"\"a\0a\"", 5}, "\"\x80\x81\x9D\"", "3", "4", "\"c\""}},
         {"a\r\nb\r\n3\r\n4\r\n\"c\r\n", {"\"a\"", "\"b\"", "3", "4"}},
-        {"\"" + std::string(5'000'000, 'x') + "\",b,3,4,c", {}},  // beyond what is read of a file
+        {"\"" + std::string(64 << 10, 'x') + "\",b,3,4,c", {}},  // beyond what is read of a file
     };
     for (const auto& [file, read] : files) Expect(OpenPreferences, file, read);
 
