@@ -1,16 +1,42 @@
 // The game on the Qt desktop.
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <cstdio>
 
+#include "app/command_line.h"
 #include "qt/qt_desktop.h"
 #include "ui/playing.h"
 
+namespace {
+
+constexpr int kWrongUse = 2;  // exit status
+
+std::string FullPath(const std::string& path) {
+    const QFileInfo file(QString::fromLocal8Bit(path));
+    return QDir::toNativeSeparators(file.absoluteFilePath()).toStdString();
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+    const zarpel::CommandLine line = zarpel::ReadCommandLine({argv + std::min(argc, 1), argv + argc});
+    if (!line.Answer.empty()) {
+        std::fputs(line.Answer.c_str(), line.Wrong ? stderr : stdout);
+        return line.Wrong ? kWrongUse : 0;
+    }
+    int noMoreWords = 1;  // the toolkit would take some for its own
     QApplication::setApplicationName(QStringLiteral("Zarpel"));
+    QApplication::setDesktopFileName(QStringLiteral("zarpel"));  // by it the desktop finds name and icon
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // asking the desktop for one delays the start
-    const QApplication application(argc, argv);
+    const QApplication application(noMoreWords, argv);
     zarpel::QtDesktop desktop(QApplication::applicationDirPath().toStdString(), "Zarpel");
     zarpel::Playing playing(desktop);
     // The start is an event like any other: what comes meanwhile waits.
-    desktop.Pass(playing, [&playing] { playing.Load(); });
+    desktop.Pass(playing, [&playing, &line] {
+        if (!line.Match) return playing.Load();
+        playing.CommonDialog.FileName = FullPath(*line.Match);
+        playing.CargarJuego(playing.CommonDialog.FileName);
+    });
     return QApplication::exec();
 }

@@ -94,7 +94,7 @@ QByteArray CardList(const QStringList& names) {
 
 void DrawAll(const QString& dataFolder, const QString& outFolder) {
     const QDir out(outFolder);
-    for (const auto* folder : {"app", "builtin", "boxes", "ayuda"}) {
+    for (const auto* folder : {"app", "builtin", "boxes", "tipos", "ayuda"}) {
         if (!out.mkpath(folder))
             throw std::runtime_error((outFolder + ": cannot make the folder").toStdString());
     }

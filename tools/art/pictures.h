@@ -3,6 +3,7 @@
 // app/      what lies beside the executable: the 40 cards, "dibujo.jpg" (the card back) and "naipe.dat"
 // builtin/  what is compiled into the game: "dorso.jpg" (the back it starts with), the pictures of the
 //           toolbar, the boxes and the About window, and the program's icon
+// tipos/    the icons of the kinds of files that are the game's
 // ayuda/    the back with see-through corners: the help shows it, and the cards of app/
 #pragma once
 
