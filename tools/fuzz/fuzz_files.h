@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "engine/zarpelfunc.h"
 #include "tools/play/installation.h"
 #include "tools/play/random_player.h"
 
@@ -20,11 +21,26 @@ inline void Require(bool condition) {
     if (!condition) std::abort();
 }
 
-// Plays on with the same moves for every input. There must always be a move.
-inline void PlayOn(Playing& window) {
+// No place shows another's picture, and a back lies over each card of the computer's hand.
+inline bool ShowsWhatIsThere(Playing& window) {
+    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
+        const Image& place = window.SlotDePosicion(codigo).Imagen;
+        const int carta = IndiceDeTag(place.Tag);
+        if (!place.Visible) continue;
+        if (carta == 0 || place.Picture != Naipes->Mazo_Imagen(carta)) return false;
+        if (place.Cover != nullptr && !place.Cover->Visible) return false;
+    }
+    return true;
+}
+
+// Plays on, with the same moves for every input, until the deal is over or that takes too long. There must
+// always be a move.
+inline void PlayOn(Playing& window, ScriptedDesktop& desktop) {
+    bool over = false;
+    desktop.Modal = {[&over](Form&) { over = true; }};
     RandomPlayer player(window, 1);
-    for (int i = 0; i < 60; ++i) {
-        Require(CanAct(window));
+    for (int i = 0; i < 2000 && !over; ++i) {
+        Require(CanAct(window) && ShowsWhatIsThere(window));
         player.Act();
     }
 }

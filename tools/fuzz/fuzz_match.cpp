@@ -25,6 +25,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         window.GuardaJuego("segunda");
         zarpel::Require(desktop.Files["primera"] == desktop.Files["segunda"]);
     }
-    zarpel::PlayOn(window);
+    zarpel::PlayOn(window, desktop);
     return 0;
 }

@@ -14,6 +14,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     window.LoadProperty(path);
     window.SaveProperty();
     zarpel::Require(desktop.TakeBoxTexts().empty() && desktop.Files[path] == saved);
-    zarpel::PlayOn(window);
+    zarpel::PlayOn(window, desktop);
     return 0;
 }
