@@ -89,7 +89,7 @@ class RandomMatch {
                 ActAtRandom();
             } else if (!capture.empty() && Chance(sense_)) {
                 for (int place = 0; place < kPlaces; ++place) {
-                    if (referee_.Now().Cards.at(static_cast<std::size_t>(place)).Chosen) Click(place);
+                    if (referee_.Now().Cards.at(place).Chosen) Click(place);
                 }
                 for (const int place : capture) Click(place);
                 Press('L', 0);
@@ -134,7 +134,7 @@ class RandomMatch {
         Do([&] { window_.Form_KeyDown(key, shift); }, &Referee::Key, key, shift);
     }
     void Click(int place) {
-        const auto i = static_cast<std::size_t>(place);
+        const int i = place;
         Image& image = place < kCpuHand     ? window_.mesaimg[i]
                        : place < kHumanHand ? window_.cartap1img[i - kCpuHand]
                                             : window_.cartap2img[i - kHumanHand];
@@ -149,9 +149,8 @@ class RandomMatch {
             case 1:
                 return Do([&] { window_.Form_MouseMove(0, y); }, &Referee::Moves, y);
             case 2:
-                return Do(
-                    [&] { window_.Frame1.DragDrop(window_.cartap2img.at(static_cast<std::size_t>(hand))); },
-                    &Referee::Drops, kHumanHand + hand);
+                return Do([&] { window_.Frame1.DragDrop(window_.cartap2img.at(hand)); }, &Referee::Drops,
+                          kHumanHand + hand);
             case 3:
                 return Do([&] { window_.LevantarBtn.Click(); }, &Referee::Takes);
             case 4:
@@ -197,7 +196,7 @@ void RequireFairDraws() {
     for (const auto& counts : draws.Cards) {
         int all = 0;
         for (const int count : counts) all += count;
-        for (std::size_t i = 1; i < counts.size(); ++i) fair &= Fair(counts[i], all, 1 / 40.0);
+        for (int i = 1; i <= 40; ++i) fair &= Fair(counts[i], all, 1 / 40.0);
     }
     if (!fair) throw std::runtime_error("the draws are not fair");
 }
@@ -220,8 +219,8 @@ int main(int argc, char** argv) {
     try {
         for (; seed < first + matches; ++seed) RandomMatch(static_cast<unsigned>(seed)).Play();
         RequireFairDraws();
-        for (const char* text :
-             {"¡¡¡ZARPEL!!!", "Paso", "JUEGO EMPATADO", "La mesa está llena", "Ninguno de los dos"}) {
+        for (const auto& [told, times] : shown) std::printf("%8d  %s\n", times, told.c_str());
+        for (const char* text : {"ZARPEL!!!", "Paso", "JUEGO EMPATADO", "La mesa está llena", "Ninguno de"}) {
             if (matches >= kMatchesThatShowAll) RequireShown(text);
         }
     } catch (const std::exception& fault) {

@@ -1,4 +1,4 @@
-#include "tests/play/seen.h"
+#include "tools/play/seen.h"
 
 #include "engine/zarpelfunc.h"
 #include "tools/play/installation.h"
