@@ -18,7 +18,7 @@
 namespace zarpel {
 namespace {
 
-constexpr int kMostEvents = 20000;         // far more than the longest match needs
+constexpr int kMostEvents = 200000;        // far more than the longest row of matches needs
 constexpr int kMatchesThatShowAll = 1000;  // so many must have shown everything that can happen
 
 const std::string kMatch = "partida";  // file of the saved match

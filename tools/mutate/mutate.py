@@ -14,6 +14,7 @@ import re
 import resource
 import shutil
 import subprocess
+import sys
 import tempfile
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
@@ -134,6 +135,7 @@ def main():
             text = sources[name]
             passed = copy.tries(name, text, change)
             tried += passed is not None
+            print(f"{survived} of {tried}", end="\r", file=sys.stderr)
             if passed:
                 survived += 1
                 begin, end, instead = change
