@@ -1,6 +1,5 @@
 // The game on the Qt desktop.
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <cstdio>
 
@@ -12,9 +11,8 @@ namespace {
 
 constexpr int kWrongUse = 2;  // exit status
 
-std::string FullPath(const std::string& path) {
-    const QFileInfo file(QString::fromLocal8Bit(path));
-    return QDir::toNativeSeparators(file.absoluteFilePath()).toStdString();
+QString FullPath(const std::string& path) {
+    return QFileInfo(QString::fromLocal8Bit(path)).absoluteFilePath();
 }
 
 }  // namespace
@@ -30,12 +28,12 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("zarpel"));  // by it the desktop finds name and icon
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // asking the desktop for one delays the start
     const QApplication application(noMoreWords, argv);
-    zarpel::QtDesktop desktop(QApplication::applicationDirPath().toStdString(), "Zarpel");
+    zarpel::QtDesktop desktop(zarpel::ProgramFolder(), "Zarpel");
     zarpel::Playing playing(desktop);
     // The start is an event like any other: what comes meanwhile waits.
-    desktop.Pass(playing, [&playing, &line] {
+    desktop.Pass(playing, [&desktop, &playing, &line] {
         if (!line.Match) return playing.Load();
-        playing.CommonDialog.FileName = FullPath(*line.Match);
+        playing.CommonDialog.FileName = desktop.PathForTheGame(FullPath(*line.Match));
         playing.CargarJuego(playing.CommonDialog.FileName);
     });
     return QApplication::exec();

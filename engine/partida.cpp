@@ -163,7 +163,7 @@ void Mesa::DaCarta(int codigo) {
     AseguraImagen(carta);
     const std::string& imagen = Naipes->Mazo_Imagen(carta);
     if (!UpdateImagenDesktop(codigo, imagen, carta)) {
-        ErrorGrave(desktop_, "No se puede cargar la imagen " + imagen);
+        ErrorGrave(desktop_, "No se puede cargar la imagen " + desktop_.ShownPath(imagen, FileUse::Reading));
     }
     Naipes->aRepartidas(static_cast<std::int16_t>(Naipes->Repartidas() + 1));
 }

@@ -3,9 +3,8 @@
 // desktop it has.
 //
 // Everything happens on one thread. Calls marked "blocks" return when the player has answered or the time is
-// over; meanwhile windows keep painting. Texts are UTF-8. A path that the game makes is the application
-// folder, "\" and a name, whatever the system's separator is; one that the player chose is the system's own.
-// It is the implementation that opens them, reading "\" as the system's separator.
+// over; meanwhile windows keep painting. Texts are UTF-8. Paths are those of paths.h, and it is the
+// implementation that finds the files.
 #pragma once
 
 #include <cstddef>
@@ -20,6 +19,7 @@ namespace zarpel {
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
 enum class BoxButtons { Ok, YesNo };
 enum class Answer { Ok, Yes, No };
+enum class FileUse { Reading, Writing };
 
 struct Message {
     std::string Text;
@@ -79,6 +79,8 @@ class Desktop {
 
     // --- Files ---
 
+    // For messages: where the file of this path is read, or written, as the system writes its paths.
+    virtual std::string ShownPath(const std::string& path, FileUse use) const = 0;
     // Reads the picture file at `path` (BMP, JPEG, PNG), so that controls can show it under that path. False:
     // it is missing, unreadable or no picture. A file is decoded once; asking again costs nothing.
     virtual bool LoadPicture(const std::string& path) = 0;
@@ -86,7 +88,8 @@ class Desktop {
     // cannot be read.
     virtual std::optional<std::string> ReadFile(const std::string& path, std::size_t limit) = 0;
     // Makes `bytes` the whole content of the file, or leaves everything as it was and gives false. At no
-    // moment does a half-written file stand under that path, not even if the program is killed.
+    // moment does a half-written file stand under that path, not even if the program is killed. False, too,
+    // where something stands that is no file: a folder, a pipe, a device.
     virtual bool WriteFile(const std::string& path, const std::string& bytes) = 0;
 
     // --- Time and chance ---

@@ -10,8 +10,6 @@
 #include <QRegularExpressionValidator>
 #include <QTreeView>
 
-#include "qt/files.h"
-
 namespace zarpel {
 namespace {
 
@@ -44,44 +42,43 @@ class SpanishList : public QIdentityProxyModel {
     }
 };
 
-// Where "/" divides a path, the toolkit takes "\" for a letter, but the game opens it as "/": the chooser
-// would ask about another file than the one replaced.
-void RefuseBackslash(const QFileDialog& chooser) {
+// In the field for the name the toolkit takes double quotes as marks around several names: another file would
+// be opened or replaced than the one named.
+void RefuseQuotes(const QFileDialog& chooser) {
     auto* const name = chooser.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (!name || QDir::separator() != '/') return;
-    name->setValidator(new QRegularExpressionValidator(QRegularExpression(R"([^\\]*)"), name));
+    if (name) name->setValidator(new QRegularExpressionValidator(QRegularExpression("[^\"]*"), name));
 }
 
-bool AskFile(QFileDialog& chooser, ChooserState& dialog) {
+bool AskFile(QFileDialog& chooser, const GamePaths& paths, ChooserState& dialog) {
     constexpr int kLetters = 90, kLines = 28;  // else large letters stand in a small window
     const QFontMetrics letters = chooser.fontMetrics();
     chooser.setOption(QFileDialog::DontUseNativeDialog);  // native ones speak the system's language
     chooser.setProxyModel(new SpanishList(&chooser));
-    RefuseBackslash(chooser);
+    RefuseQuotes(chooser);
     chooser.setNameFilters(FiltersOf(dialog.Filter));
     chooser.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
-    const QFileInfo last(SystemPath(dialog.FileName));
+    const QFileInfo last(paths.ToRead(dialog.FileName));
     chooser.setDirectory(dialog.FileName.empty() ? QDir::homePath() : last.absolutePath());
     if (!dialog.FileName.empty()) chooser.selectFile(last.fileName());
     if (auto* const list = chooser.findChild<QTreeView*>()) list->header()->setStretchLastSection(true);
     chooser.resize(kLetters * letters.averageCharWidth(), kLines * letters.height());
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return false;
-    dialog.FileName = QDir::toNativeSeparators(chooser.selectedFiles().constFirst()).toStdString();
+    dialog.FileName = paths.ForTheGame(chooser.selectedFiles().constFirst());
     return true;
 }
 
 }  // namespace
 
-bool ShowOpen(QWidget* owner, ChooserState& dialog) {
+bool ShowOpen(QWidget* owner, const GamePaths& paths, ChooserState& dialog) {
     QFileDialog chooser(owner, QStringLiteral("Abrir"));
     chooser.setFileMode(QFileDialog::ExistingFile);
-    return AskFile(chooser, dialog);
+    return AskFile(chooser, paths, dialog);
 }
 
-bool ShowSave(QWidget* owner, ChooserState& dialog) {
+bool ShowSave(QWidget* owner, const GamePaths& paths, ChooserState& dialog) {
     QFileDialog chooser(owner, QStringLiteral("Guardar"));
     chooser.setAcceptMode(QFileDialog::AcceptSave);
-    return AskFile(chooser, dialog);
+    return AskFile(chooser, paths, dialog);
 }
 
 }  // namespace zarpel

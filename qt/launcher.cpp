@@ -7,8 +7,8 @@
 
 namespace zarpel {
 
-void Run(const std::string& commandLine) {
-    const QString whole = SystemPath(commandLine);
+void Run(const std::string& commandLine, const GamePaths& paths) {
+    const QString whole = paths.ToRead(commandLine);
     if (IsRegularFile(whole)) {
         QProcess::startDetached(whole, {});
         return;
@@ -18,7 +18,7 @@ void Run(const std::string& commandLine) {
     if (!line.contains('"')) line.replace('\'', '"');
     QStringList words = QProcess::splitCommand(line);
     if (words.isEmpty()) return;
-    const QString program = SystemPath(words.takeFirst().toStdString());
+    const QString program = paths.ToRead(words.takeFirst().toStdString());
     QProcess::startDetached(program, words);
 }
 

@@ -64,14 +64,14 @@ QIcon ProgramIcon() {
 }
 
 bool PictureStore::Load(const std::string& path) {
-    const QString name = SystemPath(path);
-    if (const auto known = decoded_.constFind(name); known != decoded_.cend()) return !known->isNull();
+    if (const auto known = decoded_.find(path); known != decoded_.end()) return !known->second.isNull();
+    const QString name = paths_.ToRead(path);
     QImage picture = ReadPicture(name);
     if (picture.isNull() && name.startsWith(QStringLiteral(":/")))
         picture = BuiltInPicture(name, kLargestPicture.width());
     // What cannot be decoded may have taken long; a file that is missing may yet come.
     if (picture.isNull() && !IsRegularFile(name)) return false;
-    decoded_.insert(name, picture);
+    decoded_[path] = picture;
     return !picture.isNull();
 }
 
@@ -80,7 +80,7 @@ void PictureStore::Prepare(const Look& look) {
     if (look.Path.empty() || size.isEmpty() || coming_.contains(look) || scaled_.contains(look)) return;
     if (!Load(look.Path)) return;
     const auto task = std::make_shared<std::packaged_task<QImage()>>(
-        [picture = decoded_.value(SystemPath(look.Path)), pixels = (QSizeF(size) * look.Ratio).toSize(),
+        [picture = decoded_.at(look.Path), pixels = (QSizeF(size) * look.Ratio).toSize(),
          radius = look.Corner * look.Ratio] { return Stretch(picture, pixels, radius); });
     coming_[look] = task->get_future();
     QThreadPool::globalInstance()->start([task] { (*task)(); });

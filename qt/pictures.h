@@ -2,7 +2,6 @@
 // the rest of the program, since the first sight of the table waits for ten cards.
 #pragma once
 
-#include <QHash>
 #include <QIcon>
 #include <QImage>
 #include <QPixmap>
@@ -11,6 +10,8 @@
 #include <map>
 #include <string>
 #include <tuple>
+
+#include "qt/game_paths.h"
 
 namespace zarpel {
 
@@ -36,6 +37,9 @@ struct Look {
 
 class PictureStore {
   public:
+    // Keeps the reference.
+    explicit PictureStore(const GamePaths& paths) : paths_(paths) {}
+
     // Reads the file, or the built-in picture of a path that begins with ":/". False: no picture there.
     bool Load(const std::string& path);
 
@@ -49,7 +53,8 @@ class PictureStore {
     QPixmap Scaled(const Look& look);
 
   private:
-    QHash<QString, QImage> decoded_;
+    const GamePaths& paths_;
+    std::map<std::string, QImage> decoded_;       // null: a file that is no picture
     std::map<Look, std::future<QImage>> coming_;  // until they are asked for
     std::map<Look, QPixmap> scaled_;
 };

@@ -8,7 +8,6 @@
 #include <QTimer>
 #include <QTranslator>
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 
 #include "qt/accessibility.h"
@@ -45,8 +44,8 @@ void SpeakSpanish() {
 
 }  // namespace
 
-QtDesktop::QtDesktop(std::string folder, std::string title)
-    : folder_(std::move(folder)), title_(std::move(title)), style_(new ScaledStyle) {
+QtDesktop::QtDesktop(const std::string& folder, std::string title)
+    : paths_(folder), title_(std::move(title)), style_(new ScaledStyle) {
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     QApplication::setStyle(style_);
     QApplication::setPalette(QApplication::style()->standardPalette());
@@ -161,18 +160,18 @@ std::string QtDesktop::InputBox(const std::string& prompt, const std::string& ti
     return zarpel::InputBox(TopWindow(), prompt, title, proposed);
 }
 
-bool QtDesktop::ShowOpen(ChooserState& dialog) { return zarpel::ShowOpen(TopWindow(), dialog); }
-bool QtDesktop::ShowSave(ChooserState& dialog) { return zarpel::ShowSave(TopWindow(), dialog); }
+bool QtDesktop::ShowOpen(ChooserState& dialog) { return zarpel::ShowOpen(TopWindow(), paths_, dialog); }
+bool QtDesktop::ShowSave(ChooserState& dialog) { return zarpel::ShowSave(TopWindow(), paths_, dialog); }
 bool QtDesktop::ShowColor(ChooserState& dialog) { return zarpel::ShowColor(TopWindow(), dialog); }
 
 // --- Files ---
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path, std::size_t limit) {
-    return zarpel::ReadFile(path, limit);
+    return zarpel::ReadFile(paths_.ToRead(path), limit);
 }
 
 bool QtDesktop::WriteFile(const std::string& path, const std::string& bytes) {
-    return zarpel::WriteFile(path, bytes);
+    return zarpel::WriteFile(paths_.ToWrite(path), bytes);
 }
 
 // --- Time and chance ---
@@ -184,21 +183,13 @@ void QtDesktop::Pause(int milliseconds) {
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-// The last draw goes into the seed, so that two seeds taken within one clock tick differ.
-void QtDesktop::Randomize() {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    generator_.seed(static_cast<std::uint64_t>(now) ^ generator_());
-}
-
-double QtDesktop::Rnd() { return std::generate_canonical<double, 53>(generator_); }
-
 // --- Other programs ---
 
 void QtDesktop::OpenHelp(const std::string& path) {
-    if (!help_) help_ = std::make_unique<HelpWindow>(SystemPath(path));
+    if (!help_) help_ = std::make_unique<HelpWindow>(paths_.ToRead(path));
     help_->Present();
 }
 
-void QtDesktop::Run(const std::string& commandLine) { zarpel::Run(commandLine); }
+void QtDesktop::Run(const std::string& commandLine) { zarpel::Run(commandLine, paths_); }
 
 }  // namespace zarpel

@@ -3,13 +3,14 @@
 
 #include <map>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "platform/desktop.h"
+#include "platform/draws.h"
 #include "platform/event_gate.h"
 #include "qt/form_window.h"
+#include "qt/game_paths.h"
 #include "qt/pictures.h"
 #include "qt/scale.h"
 #include "qt/scaled_style.h"
@@ -20,16 +21,19 @@ class HelpWindow;
 
 class QtDesktop : public Desktop {
   public:
-    // `folder` is the application folder, `title` the application's. Needs a QApplication, which it gives the
-    // game's look.
-    QtDesktop(std::string folder, std::string title);
+    // `folder` is the application folder, in the system's own bytes, `title` the application's title. Needs a
+    // QApplication, which it gives the game's look.
+    QtDesktop(const std::string& folder, std::string title);
     ~QtDesktop() override;
 
     // Runs a handler of the form as one of its events: alone, after those before it.
     void Pass(Form& form, std::function<void()> handler) { GateOf(form).Pass(std::move(handler)); }
 
+    // What the game is to call a file of the system's.
+    std::string PathForTheGame(const QString& file) const { return paths_.ForTheGame(file); }
+
     std::string Title() const override { return title_; }
-    std::string Folder() const override { return folder_; }
+    std::string Folder() const override { return paths_.Folder(); }
     void Show(Form& form) override;
     void ShowModal(Form& form) override;
     void Unload(Form& form) override;
@@ -40,12 +44,15 @@ class QtDesktop : public Desktop {
     bool ShowOpen(ChooserState& dialog) override;
     bool ShowSave(ChooserState& dialog) override;
     bool ShowColor(ChooserState& dialog) override;
+    std::string ShownPath(const std::string& path, FileUse use) const override {
+        return paths_.ShownPath(path, use);
+    }
     bool LoadPicture(const std::string& path) override { return pictures_.Load(path); }
     std::optional<std::string> ReadFile(const std::string& path, std::size_t limit) override;
     bool WriteFile(const std::string& path, const std::string& bytes) override;
     void Pause(int milliseconds) override;
-    void Randomize() override;
-    double Rnd() override;
+    void Randomize() override { draws_.Randomize(); }
+    double Rnd() override { return draws_.Next(); }
     void OpenHelp(const std::string& path) override;
     void Run(const std::string& commandLine) override;
 
@@ -73,14 +80,15 @@ class QtDesktop : public Desktop {
     void UseScale(const QSize& form, const QSize& client);
     QWidget* TopWindow() const;
 
-    std::string folder_, title_;
+    GamePaths paths_;
+    std::string title_;
     ScaledStyle* style_;  // the application's, which owns it
     TableScale scale_;
-    PictureStore pictures_;
+    PictureStore pictures_{paths_};
     std::map<const Form*, EventGate> gates_;
     std::vector<Opened> opened_;        // the lowest first
     std::unique_ptr<HelpWindow> help_;  // made when the player first asks for it
-    std::mt19937_64 generator_;
+    Draws draws_;
 };
 
 }  // namespace zarpel

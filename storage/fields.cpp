@@ -15,7 +15,7 @@ void SaveFile(Desktop& desktop, const std::string& path, const Fields& fields) {
     ValueWriter file;
     for (const Field& field : fields) field.Save(file);
     if (desktop.WriteFile(path, file.Bytes())) return;
-    desktop.Show({.Text = "No se pudo guardar el archivo\n" + path,
+    desktop.Show({.Text = "No se pudo guardar el archivo\n" + desktop.ShownPath(path, FileUse::Writing),
                   .Icon = BoxIcon::Critical,
                   .Title = "Hubo un error"});
 }

@@ -83,6 +83,7 @@ class ScriptedDesktop : public Desktop {
         dialog.Color = color.value_or(dialog.Color);
         return color.has_value();
     }
+    std::string ShownPath(const std::string& path, FileUse /*use*/) const override { return path; }
     bool LoadPicture(const std::string& path) override {
         return Files.contains(path) && (path.ends_with(".png") || path.ends_with(".jpg"));
     }

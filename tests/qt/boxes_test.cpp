@@ -59,11 +59,11 @@ TEST_F(BoxesTest, AMatchIsSavedUnderTheNameThatTheChooserShowsInASpanishList) {
         };
         EXPECT_TRUE(QTest::qWaitFor([&] { return column(3).startsWith(today); }));
         EXPECT_EQ(column(2), "Archivo");
-        QTest::keyClicks(chooser.focusWidget(), "dos\\tres");
+        QTest::keyClicks(chooser.focusWidget(), "dos\\\"tres");
         Leave(chooser, Qt::Key_Return);
     });
     EXPECT_TRUE(Desktop.ShowSave(dialog));
-    EXPECT_EQ(dialog.FileName, Folder.filePath("dostres.zrp").toStdString());
+    EXPECT_EQ(dialog.FileName, Folder.filePath("dos\\tres.zrp").toStdString());
 }
 
 TEST_F(BoxesTest, TheResultsWindowEndsByEveryWayOut) {

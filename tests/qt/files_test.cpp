@@ -1,15 +1,22 @@
-// Reading and writing real files. Whatever goes wrong, the old file or the new one is there, whole.
+// Reading and writing real files, by the paths of the game and those that a player chooses. Whatever goes
+// wrong, the old file or the new one is there, whole.
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <filesystem>
+#include <map>
 
 #include "qt/files.h"
+#include "qt/game_paths.h"
 
 namespace zarpel {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::size_t kLimit = 1'000'000;
 const std::string kOld(2'000, 'o');
@@ -18,42 +25,93 @@ const std::string kLong(200'000, 'l');
 
 class Files : public testing::Test {
   protected:
-    // As the game writes a path: the folder, "\" and the name.
-    std::string In(const std::string& name) const { return folder_.path().toStdString() + "\\" + name; }
-    QStringList Names() const { return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden); }
+    QString In(const QString& name) const { return folder_.filePath(name); }
+    // All that is in the folder, and what it is.
+    std::map<std::string, fs::file_type> Kinds() const {
+        std::map<std::string, fs::file_type> kinds;
+        for (const auto& entry : fs::directory_iterator(folder_.path().toStdString())) {
+            kinds[entry.path().filename()] = entry.symlink_status().type();
+        }
+        return kinds;
+    }
 
     QTemporaryDir folder_;
 };
 
 TEST_F(Files, AreReplacedWholeAndReadUpToALimit) {
-    const std::string path = In("Año 1.zrp"), folder = folder_.path().toStdString();
+    const QString path = In("Año 1.zrp"), link = In("enlace");
     ASSERT_TRUE(WriteFile(path, kLong));
-    ASSERT_TRUE(WriteFile(path, kNew));
-    for (const auto& none : {path + "\\dentro.zrp", folder, In(std::string(300, 'x')), std::string()}) {
-        EXPECT_FALSE(WriteFile(none, kOld)) << none;
-        EXPECT_EQ(ReadFile(none, kLimit), std::nullopt) << none;
+    fs::create_symlink("Año 1.zrp", link.toStdString());
+    ASSERT_TRUE(WriteFile(link, kNew));  // the link stays one
+    ASSERT_EQ(mkfifo(In("tubo").toLocal8Bit(), 0600), 0);
+    for (const char* const to : {"tubo", "/dev/null", "vuelta", "."}) {
+        fs::create_symlink(to, In("a ").toStdString() + QString(to).replace('/', ' ').toStdString());
     }
+    fs::create_symlink("a vuelta", In("vuelta").toStdString());
+    const auto all = Kinds();
+    for (const QString& none : {path + "/dentro.zrp", folder_.path(), In(QString(300, 'x')), QString(),
+                                In("tubo"), In("a tubo"), In("a  dev null"), In("a vuelta"), In("a .")}) {
+        EXPECT_FALSE(WriteFile(none, kOld)) << none.toStdString();
+        EXPECT_EQ(ReadFile(none, kLimit), std::nullopt) << none.toStdString();
+    }
+    EXPECT_EQ(Kinds(), all);
     EXPECT_EQ(ReadFile(path, kLimit), kNew);
-    EXPECT_EQ(ReadFile(path, 10), kNew.substr(0, 10));
-    EXPECT_EQ(Names(), QStringList{"Año 1.zrp"});
+    EXPECT_EQ(ReadFile(link, 10), kNew.substr(0, 10));
 }
 
-TEST_F(Files, OnAFullOrReadOnlyDiskStayAsTheyWere) {
+TEST_F(Files, AreThoseNamedWhateverTheGamesFolderIsCalled) {
+    for (const char* const name : {"zarpel", "mi\\zarpel", "\"el\" 'juego'", "Año", "\xFF\xFEraro\\"}) {
+        const fs::path folder = fs::path(folder_.path().toStdString()) / name;
+        fs::create_directory(folder);
+        const GamePaths paths(folder.string());
+        const auto writes = [&paths](const std::string& path, const std::string& bytes,
+                                     const fs::path& file) {
+            return WriteFile(paths.ToWrite(path), bytes) && fs::file_size(file) == bytes.size() &&
+                   ReadFile(paths.ToRead(path), kLimit) == bytes;
+        };
+        const QString shown = QString::fromStdString(paths.Folder());
+        EXPECT_TRUE(writes(paths.Folder() + "\\x.zrp", kNew, folder / "x.zrp")) << name;
+        EXPECT_EQ(paths.ShownPath(paths.Folder() + "\\x.zrp", FileUse::Writing), paths.Folder() + "/x.zrp");
+        if (shown.contains(QChar::ReplacementCharacter)) {
+            fs::remove_all(folder);  // the toolkit cannot
+            continue;
+        }
+        EXPECT_TRUE(writes(paths.ForTheGame(shown + "\\x.zrp"), kOld, folder.string() + "\\x.zrp")) << name;
+        EXPECT_TRUE(writes(paths.ForTheGame(shown + "/d\\x.zrp"), kOld, folder / "d\\x.zrp")) << name;
+        EXPECT_EQ(fs::file_size(folder / "x.zrp"), kNew.size()) << name;
+    }
+}
+
+TEST_F(Files, OnAFullOrReadOnlyDiskStayAsTheyWereAndGoToThePlayersFolder) {
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.filePath("datos").toLocal8Bit());
     // A small disk that only this process sees.
     const QByteArray disk = folder_.path().toLocal8Bit();
     if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("tmpfs", disk, "tmpfs", 0, "size=16k") != 0) {
         GTEST_SKIP() << "needs the right to mount a disk of its own";
     }
-    const std::string path = In("partida.zrp");
-    EXPECT_TRUE(WriteFile(path, kOld));
-    int others = 0;
-    while (others < 10 && WriteFile(In("relleno" + std::to_string(others)), kNew)) ++others;
-    EXPECT_FALSE(WriteFile(path, kNew));
-    EXPECT_EQ(Names().size(), others + 1) << "nothing half written is left";
+    const GamePaths paths(disk.toStdString());
+    const std::string own = paths.Folder() + "\\lastprop.dat", shared = paths.Folder() + "/lastprop.dat";
+    const auto write = [&paths](const std::string& path, const std::string& bytes) {
+        return WriteFile(paths.ToWrite(path), bytes);
+    };
+    const auto read = [&paths](const std::string& path) { return ReadFile(paths.ToRead(path), kLimit); };
+    EXPECT_TRUE(write(own, kOld));
+    std::size_t others = 0;
+    while (others < 10 && WriteFile(In("relleno" + QString::number(others)), kNew)) ++others;
+    EXPECT_FALSE(write(own, kNew));
+    EXPECT_EQ(Kinds().size(), others + 1) << "nothing half written is left";
+    EXPECT_FALSE(QDir(home.filePath("datos")).exists());
+
     EXPECT_EQ(mount(nullptr, disk, nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
-    EXPECT_FALSE(WriteFile(path, ""));
-    EXPECT_EQ(ReadFile(path, kLimit), kOld);
+    EXPECT_EQ(read(own), kOld);
+    EXPECT_FALSE(write(shared, kNew)) << "the player chose that place";
+    EXPECT_TRUE(write(own, kNew));
+    EXPECT_EQ(read(own), kNew);
+    EXPECT_EQ(read(shared), kOld);
+    EXPECT_EQ(mount(nullptr, disk, nullptr, MS_REMOUNT, nullptr), 0);
+    EXPECT_EQ(read(own), kOld) << "a folder that can be written is used as before";
     umount(disk);
 }
 

@@ -69,14 +69,15 @@ TEST(PictureFiles, AreReadByWhatTheyHoldOnceAndScaledCrisply) {
         {"svg.bmp", {svg, false}},        {"huge.bmp", {huge, false}},
         {"other.gif", {"GIF89a", false}},
     };
-    for (const auto& [name, file] : files) ASSERT_TRUE(WriteFile(path(name), file.first));
+    for (const auto& [name, file] : files) ASSERT_TRUE(WriteFile(folder.filePath(name), file.first));
     ASSERT_EQ(mkfifo(folder.filePath("pipe.png").toLocal8Bit(), 0600), 0);
     ASSERT_TRUE(QFile::link("/dev/zero", folder.filePath("device.png")));
     ASSERT_TRUE(QFile::link(folder.filePath("pipe.png"), folder.filePath("link.png")));
     QFile sparse(folder.filePath("sparse.png"));
     ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(qint64{3} << 30));
 
-    PictureStore pictures;
+    const GamePaths paths(folder.path().toStdString());
+    PictureStore pictures(paths);
     QElapsedTimer timer;
     const auto loads = [&](const char* name) {
         timer.start();

@@ -18,7 +18,7 @@ QtTable::QtTable() {
     const auto here = [this](const std::string& path) {
         return Folder.filePath(QString::fromStdString(path).section('\\', -1));
     };
-    for (const auto& [path, bytes] : InstalledDesktop().Files) WriteFile(here(path).toStdString(), bytes);
+    for (const auto& [path, bytes] : InstalledDesktop().Files) WriteFile(here(path), bytes);
     for (int carta = 1; carta <= classnaipe::kCartas; ++carta) {
         WritePicture(here(CardPicture(carta)), ColorOfCard(carta));
     }

@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
     file.replace(kFileTimeAt, kTimeLength, QByteArray(kTimeLength, '\0'));
     ClearSystemTime(file);
     const std::string sealed = zarpel::Sealed(file).toStdString();
-    if (zarpel::WriteFile(QFile::decodeName(argv[2]).toStdString(), sealed)) return 0;
+    if (zarpel::WriteFile(QFile::decodeName(argv[2]), sealed)) return 0;
     std::fprintf(stderr, "seal_help: cannot write %s\n", argv[2]);
     return 1;
 }
