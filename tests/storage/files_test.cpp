@@ -38,18 +38,6 @@ std::string SavedPreferences(Table& table) {
     return table.Desktop.Files[kLastprop];
 }
 
-// Each place shows the card that it holds, and the computer's are never seen in its hand.
-void ExpectATrueTable(const Table& table) {
-    for (const Slot& slot : table.Window.Slots()) {
-        if (!slot.Ocupado()) continue;
-        EXPECT_NE(slot.Carta(), 0);
-        EXPECT_EQ(slot.Imagen.Picture.get(), Naipes->Mazo_Imagen(std::max(1, slot.Carta())));
-    }
-    for (std::size_t i = 0; i < table.Window.fondop1img.size(); ++i) {
-        EXPECT_TRUE(table.Window.fondop1img.at(i).Visible || !table.Window.cartap1img.at(i).Visible);
-    }
-}
-
 // What opening a file leaves behind: its values, saved again, and the texts of the boxes.
 struct Opened {
     Lines Values;
@@ -65,12 +53,12 @@ Opened OpenMatch(const std::string& file) {
     table.Desktop.Draws = {0.9};  // the computer moves first, and plays a card
     table.Desktop.Answers = {Answer::No};
     table.Desktop.OnBox = [&](const Message&) {
-        ExpectATrueTable(table);
+        EXPECT_TRUE(ShowsWhatIsThere(table.Window));
         values = values.empty() ? Saved(table) : values;
     };
     table.Window.CargarJuego(kPath);
     EXPECT_TRUE(CanAct(table.Window)) << file.substr(0, 400);
-    ExpectATrueTable(table);
+    EXPECT_TRUE(ShowsWhatIsThere(table.Window));
     return {LinesOf(values.empty() ? Saved(table) : values), table.Desktop.TakeBoxTexts()};
 }
 

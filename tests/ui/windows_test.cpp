@@ -14,117 +14,96 @@
 namespace zarpel {
 namespace {
 
+template <class... Part>
+std::string Text(const Part&... parts) {
+    std::ostringstream text;
+    (text << ... << parts);
+    return text.str();
+}
+std::string Quoted(const std::string& text) { return " \"" + text + "\""; }
+std::string If(bool holds, const std::string& text) { return holds ? text : ""; }
+std::string Color(ColorCode code) { return Text(std::hex, code); }
+std::string At(const Control& c) { return Text(" ", c.Left, " ", c.Top, " ", c.Width, " ", c.Height); }
+
 class Description : public ControlVisitor {
   public:
     explicit Description(Form& form) {
-        text_ << "Form " << Where(form) << Quoted(form.Caption) << Color(" on ", form.BackColor)
-              << Word(" dialog", form.Border == FormBorder::FixedDialog)
-              << Word(" centred", form.CenterOnScreen) << "\n";
+        Add("Form", form,
+            Text(Quoted(form.Caption), " on ", Color(form.BackColor),
+                 If(form.Border == FormBorder::FixedDialog, " dialog"), If(form.CenterOnScreen, " centred")));
         Inside(form);
         for (const Menu* const menu : form.Menus) {
-            text_ << "Menu" << Quoted(menu->Caption);
-            for (const Menu* const entry : menu->Entries) text_ << Quoted(entry->Caption);
-            text_ << "\n";
+            text_ += "Menu" + Quoted(menu->Caption);
+            for (const Menu* const entry : menu->Entries) text_ += Quoted(entry->Caption);
+            text_ += "\n";
         }
     }
-    std::string Text() const { return text_.str(); }
+    std::string All() const { return text_; }
 
-    void Visit(Image& image) override {
-        Begin("Image", image) << Quoted(image.Visible ? image.Picture.get() : "") << " corner "
-                              << image.Corner << Word(" draggable", image.Draggable)
-                              << Word(" covered", image.Cover != nullptr);
-        const Speech speech = image.Visible && image.Spoken ? image.Spoken() : Speech{};
-        End(image) << Quoted(speech.Name) << Quoted(speech.Description) << "\n";
+    void Visit(Image& c) override {
+        const Speech speech = c.Visible && c.Spoken ? c.Spoken() : Speech{};
+        Add("Image", c,
+            Text(If(c.Visible, Quoted(c.Picture)), " corner ", c.Corner, If(c.Draggable, " draggable"),
+                 If(c.Cover != nullptr, " covered"), Quoted(speech.Name), Quoted(speech.Description)));
     }
-    void Visit(CheckBox& flag) override {
-        Begin("CheckBox", flag) << " " << flag.Value;
-        End(flag) << "\n";
-    }
-    void Visit(Label& label) override {
+    void Visit(CheckBox& c) override { Add("CheckBox", c, Text(" ", c.Value)); }
+    void Visit(Label& c) override {
+        const FontSpec& font = c.Font;
         const char* const sides[] = {"", " right", " centre"};
-        Begin("Label", label) << Quoted(label.Caption) << " " << label.Font.get().Family << " "
-                              << label.Font.get().Points << Word(" bold", label.Font.get().Bold)
-                              << Color(", ", label.ForeColor)
-                              << (label.Opaque ? Color(" on ", label.BackColor) : "")
-                              << sides[static_cast<int>(label.Align.get())] << Word(" wraps", label.WordWrap)
-                              << Word(" framed", label.Border)
-                              << Word(" grows to " + std::to_string(label.MaxWidth), label.AutoSize)
-                              << Word(" told", label.Announced);
-        End(label) << Word(" called" + Quoted(label.SpokenAs), !label.SpokenAs.empty()) << "\n";
+        Add("Label", c,
+            Text(Quoted(c.Caption), " ", font.Family, " ", font.Points, If(font.Bold, " bold"), ", ",
+                 Color(c.ForeColor), If(c.Opaque, " on " + Color(c.BackColor)),
+                 sides[static_cast<int>(c.Align.get())], If(c.WordWrap, " wraps"), If(c.Border, " framed"),
+                 If(c.AutoSize, Text(" grows to ", c.MaxWidth)), If(c.Announced, " told"),
+                 If(!c.SpokenAs.empty(), " called" + Quoted(c.SpokenAs))));
     }
-    void Visit(Button& button) override {
-        Begin("Button", button) << Quoted(button.Caption) << Word(" Enter", button.Default)
-                                << Word(" Escape", button.Cancel);
-        End(button) << "\n";
+    void Visit(Button& c) override {
+        Add("Button", c, Quoted(c.Caption) + If(c.Default, " Enter") + If(c.Cancel, " Escape"));
     }
-    void Visit(Frame& frame) override {
-        Begin("Frame", frame) << Quoted(frame.Caption) << Color(" on ", frame.BackColor)
-                              << Word(" framed", frame.Border);
-        End(frame) << " holds\n";
-        Inside(frame);
+    void Visit(Frame& c) override {
+        Add("Frame", c,
+            Text(Quoted(c.Caption), " on ", Color(c.BackColor), If(c.Border, " framed"), " holds"));
+        Inside(c);
     }
-    void Visit(Line& line) override {
-        Begin("Line", line) << " " << line.X1 << " " << line.Y1 << " " << line.X2 << " " << line.Y2
-                            << Color(", ", line.BorderColor) << "\n";
+    void Visit(Line& c) override {
+        Add("Line", c, Text(" ", c.X1, " ", c.Y1, " ", c.X2, " ", c.Y2, ", ", Color(c.BorderColor)));
     }
-    void Visit(ToolBar& bar) override {
-        Begin("ToolBar", bar) << " buttons " << bar.ButtonWidth << " " << bar.ButtonHeight;
-        for (const ToolButton& button : bar.Buttons) {
-            text_ << ", " << button.Key << Quoted(button.Caption) << Quoted(button.ToolTip)
-                  << Quoted(button.Picture);
+    void Visit(ToolBar& c) override {
+        std::string buttons = Text(" buttons ", c.ButtonWidth, " ", c.ButtonHeight);
+        for (const ToolButton& button : c.Buttons) {
+            buttons +=
+                ", " + button.Key + Quoted(button.Caption) + Quoted(button.ToolTip) + Quoted(button.Picture);
         }
-        End(bar) << "\n";
+        Add("ToolBar", c, buttons);
     }
-    void Visit(StatusBar& bar) override {
-        const char* const contents[] = {"", " date", " time"};
-        Begin("StatusBar", bar);
-        for (const StatusBar::Panel& panel : bar.Panels) {
-            text_ << ", " << panel.Width << Quoted(panel.Text) << contents[static_cast<int>(panel.Holds)];
+    void Visit(StatusBar& c) override {
+        std::string panels;
+        for (const auto& panel : c.Panels) {
+            panels += Text(", ", panel.Width, Quoted(panel.Text), " ", static_cast<int>(panel.Holds));
         }
-        End(bar) << "\n";
+        Add("StatusBar", c, panels);
     }
-    void Visit(TabStrip& tabs) override {
-        Begin("TabStrip", tabs);
-        for (const TabStrip::Tab& tab : tabs.Tabs) text_ << Quoted(tab.Caption) << Quoted(tab.ToolTip);
-        End(tabs) << "\n";
+    void Visit(TabStrip& c) override {
+        for (const TabStrip::Tab& tab : c.Tabs) Add("TabStrip", c, Quoted(tab.Caption) + Quoted(tab.ToolTip));
     }
 
   private:
-    static std::string Quoted(const std::string& text) { return " \"" + text + "\""; }
-    static std::string Word(const std::string& word, bool holds) { return holds ? word : ""; }
-    static std::string Color(const std::string& before, ColorCode code) {
-        std::ostringstream text;
-        text << before << std::hex << code;
-        return text.str();
-    }
-    static std::string Where(const Control& at) {
-        std::ostringstream text;
-        text << at.Left << " " << at.Top << " " << at.Width << " " << at.Height;
-        return text.str();
-    }
-
     void Inside(Container& container) {
         indent_ += "  ";
         for (Control* const child : container.Children) child->Accept(*this);
         indent_.resize(indent_.size() - 2);
     }
-    std::ostream& Begin(const char* kind, const Control& control) {
-        text_ << indent_ << kind;
-        if (control.Width > 0 || control.Height > 0) text_ << " " << Where(control);
-        return text_;
-    }
-    std::ostream& End(const Control& control) {
-        if (!control.ToolTip.get().empty()) text_ << " tip" << Quoted(control.ToolTip);
-        return text_ << Word(" hidden", !control.Visible) << Word(" disabled", !control.Enabled);
+    void Add(const char* kind, const Control& c, const std::string& rest) {
+        text_ += indent_ + kind + If(c.Width > 0 || c.Height > 0, At(c)) + rest +
+                 If(!c.ToolTip.get().empty(), " tip" + Quoted(c.ToolTip)) + If(!c.Visible, " hidden") +
+                 If(!c.Enabled, " disabled") + "\n";
     }
 
-    std::ostringstream text_;
-    std::string indent_;
+    std::string text_, indent_;
 };
 
 void ExpectAsInTable(const char* name, Form& form) {
-    const std::string path = std::string(WINDOW_TABLES) + "/" + name + ".txt",
-                      text = Description(form).Text();
+    const std::string path = std::string(WINDOW_TABLES) + "/" + name + ".txt", text = Description(form).All();
     std::ifstream file(path);
     const std::string table{std::istreambuf_iterator<char>(file), {}};
     EXPECT_EQ(table, text) << "when that is meant, take the new table from the folder where the test ran";

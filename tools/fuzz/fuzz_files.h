@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <string>
 
-#include "engine/zarpelfunc.h"
 #include "tools/play/installation.h"
 #include "tools/play/random_player.h"
 
@@ -19,18 +18,6 @@ inline std::string BytesOf(const std::uint8_t* data, std::size_t size) {
 // Stops the program, so that the fuzzer keeps the input.
 inline void Require(bool condition) {
     if (!condition) std::abort();
-}
-
-// No place shows another's picture, and a back lies over each card of the computer's hand.
-inline bool ShowsWhatIsThere(Playing& window) {
-    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
-        const Image& place = window.SlotDePosicion(codigo).Imagen;
-        const int carta = IndiceDeTag(place.Tag);
-        if (!place.Visible) continue;
-        if (carta == 0 || place.Picture != Naipes->Mazo_Imagen(carta)) return false;
-        if (place.Cover != nullptr && !place.Cover->Visible) return false;
-    }
-    return true;
 }
 
 // Plays on, with the same moves for every input, until the deal is over or that takes too long. There must

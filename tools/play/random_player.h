@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "engine/zarpelfunc.h"
 #include "ui/playing.h"
 
 namespace zarpel {
@@ -32,6 +33,18 @@ class RandomPlayer {
 // False: no input on the table can change anything any more. So it must never be while the player is to move.
 inline bool CanAct(Playing& window) {
     return window.TieneCartas(Jugador::Humano) && !window.Bloqueado(Jugador::Humano);
+}
+
+// No place shows another's picture, and a back lies over each card of the computer's hand.
+inline bool ShowsWhatIsThere(Playing& window) {
+    for (int codigo = 1; codigo <= kPosiciones; ++codigo) {
+        const Image& place = window.SlotDePosicion(codigo).Imagen;
+        const int carta = IndiceDeTag(place.Tag);
+        if (!place.Visible) continue;
+        if (carta == 0 || place.Picture != Naipes->Mazo_Imagen(carta)) return false;
+        if (place.Cover != nullptr && !place.Cover->Visible) return false;
+    }
+    return true;
 }
 
 }  // namespace zarpel
