@@ -36,6 +36,14 @@ void After(int milliseconds, QObject* receiver, Action action) {
     timer->start(milliseconds);
 }
 
+// The pointer says "busy" while it lives.
+struct BusyPointer {
+    BusyPointer() { QApplication::setOverrideCursor(Qt::BusyCursor); }
+    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
 // The texts of the toolkit's own dialogs; the game's boxes bring theirs.
 void SpeakSpanish() {
     auto* const translator = new QTranslator(qApp);
@@ -119,7 +127,9 @@ void QtDesktop::UseScale(const QSize& form, const QSize& client) {
     if (font != QApplication::font()) QApplication::setFont(font);
 }
 
+// A window that is blocked passes over a request to close it: one that waits comes before.
 void QtDesktop::ShowModal(Form& form) {
+    stray_.DropWaiting();
     QEventLoop loop;
     FormWindow& window = Open(form, [&loop] { loop.quit(); });
     window.setWindowModality(Qt::ApplicationModal);
@@ -153,7 +163,10 @@ Place QtDesktop::Screen() const {
 
 // --- Boxes and choosers ---
 
-Answer QtDesktop::Show(const Message& message) { return zarpel::Show(TopWindow(), message, Title()); }
+Answer QtDesktop::Show(const Message& message) {
+    stray_.DropWaiting();
+    return zarpel::Show(TopWindow(), message, Title());
+}
 
 std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
                                 const std::string& proposed) {
@@ -178,6 +191,7 @@ bool QtDesktop::WriteFile(const std::string& path, const std::string& bytes) {
 
 // The toolkit keeps the player's input back and delivers it, in order, once the loop has ended.
 void QtDesktop::Pause(int milliseconds) {
+    const BusyPointer busy;
     QEventLoop loop;
     After(milliseconds, &loop, [&loop] { loop.quit(); });
     loop.exec(QEventLoop::ExcludeUserInputEvents);

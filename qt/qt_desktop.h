@@ -14,6 +14,7 @@
 #include "qt/pictures.h"
 #include "qt/scale.h"
 #include "qt/scaled_style.h"
+#include "qt/stray_input.h"
 
 namespace zarpel {
 
@@ -83,6 +84,7 @@ class QtDesktop : public Desktop {
     GamePaths paths_;
     std::string title_;
     ScaledStyle* style_;  // the application's, which owns it
+    StrayInput stray_;
     TableScale scale_;
     PictureStore pictures_{paths_};
     std::map<const Form*, EventGate> gates_;

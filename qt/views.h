@@ -139,6 +139,10 @@ class ButtonView : public ControlView<QPushButton, Button> {
     ButtonView(Button& button, const ViewContext& context, QWidget* parent);
     void Sync() override;
 
+  protected:
+    // Who clicks twice means one click: the second would find what the first has changed.
+    void mouseDoubleClickEvent(QMouseEvent*) override {}
+
   private:
     bool hadFocus_ = false;  // when it was disabled
 };

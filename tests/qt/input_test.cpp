@@ -74,6 +74,32 @@ TEST_F(InputTest, ADragThatABoxInterruptsLeavesTheCardInTheHand) {
     EXPECT_EQ(cardsUnderThePointer(), 0);
 }
 
+TEST_F(InputTest, TheSecondClickOfADoubleClickIsForNothing) {
+    auto& button = ViewOf<ButtonView>(Game.LevantarBtn);
+    Game.LevantarBtn.Enabled = true;
+    const QPoint at = button.mapToGlobal(button.rect().center());
+    const auto click = [at](const QWidget& window, int ms) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            qt_handleMouseEvent(window.windowHandle(), window.mapFromGlobal(at), at, held, Qt::LeftButton,
+                                type, {}, ms);
+        }
+    };
+    InBox([&](QWidget& box) {  // there are no 15
+        auto& ok = *box.findChild<QPushButton*>();
+        box.move(box.pos() + at - ok.mapToGlobal(ok.rect().center()));
+        click(box, 10100);
+        EXPECT_TRUE(box.isVisible());
+        click(box, 20000);
+        EXPECT_FALSE(box.isVisible());
+    });
+    click(Window(), 10000);
+    int clicks = 0;
+    Game.LevantarBtn.Click = [&clicks] { ++clicks; };
+    for (const int ms : {30000, 30100}) click(Window(), ms);
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST(KeyCodes, NameTheKeyNotTheCharacter) {
     const auto codeOf = [](int key, quint32 place, Qt::KeyboardModifiers modifiers) {
         return KeyCodeOf(QKeyEvent(QEvent::KeyPress, key, modifiers, place, 0, 0));
@@ -83,6 +109,8 @@ TEST(KeyCodes, NameTheKeyNotTheCharacter) {
     EXPECT_EQ(codeOf(Qt::Key_2, 0, {}), '2');                         // an on-screen keyboard
     EXPECT_EQ(codeOf(Qt::Key_2, 99, {}), '2');                        // a remote desktop
     EXPECT_EQ(codeOf(Qt::Key_1, 0, Qt::KeypadModifier), kKeyNone);
+    EXPECT_EQ(codeOf(0x0424, 38, {}), 'A');              // Russian
+    EXPECT_EQ(codeOf(Qt::Key_Comma, 58, {}), kKeyNone);  // French
     EXPECT_EQ(ShiftMaskOf(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier), 7);
 }
 
