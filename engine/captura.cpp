@@ -65,7 +65,7 @@ void Mesa::Levanta(const std::string& duenio) {
     }
     for (const Slot& slot : Slots()) {
         if (!slot.Elegido()) continue;
-        slot.Imagen.Visible = false;
+        slot.Retirar(DeDuenio(duenio));
         AsignoANaipe(slot.Carta(), duenio);
     }
     SumaZarpel(duenio);

@@ -79,6 +79,8 @@ class Mesa {
     void DecideTurno();
     // One distribution: three cards to each player; the first of a deal also lays four on the table.
     void SeReparte();
+    // The table slot that takes the next card laid; null: the table is full.
+    const Slot* LugarLibre() const;
     // Lays the hand card shown in `Source` on the first free table slot and passes the turn. On a full table,
     // or when the card is gone (a drop that waited while others moved), nothing happens, and the turn stays.
     void Juega(Image& Source);

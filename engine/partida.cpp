@@ -160,6 +160,7 @@ void Mesa::SeReparte() {
 void Mesa::DaCarta(int codigo) {
     const int carta = SacaCarta(desktop_);
     Naipes->aMazo_Duenio(carta, DuenioEn(SlotDePosicion(codigo)));
+    SlotDePosicion(codigo).Imagen.ComesFrom = LadoDe(QuienReparte(Naipes->LaMano()));
     AseguraImagen(carta);
     const std::string& imagen = Naipes->Mazo_Imagen(carta);
     if (!UpdateImagenDesktop(codigo, imagen, carta)) {
@@ -175,9 +176,14 @@ void Mesa::AseguraImagen(int carta) {
     Naipes->aMazo_Imagen(carta, propia);
 }
 
-void Mesa::Juega(Image& Source) {
+const Slot* Mesa::LugarLibre() const {
     const auto libre = std::ranges::find_if_not(SlotsMesa(), &Slot::Ocupado);
-    if (!Source.Visible || libre == SlotsMesa().end()) return;
+    return libre == SlotsMesa().end() ? nullptr : &*libre;
+}
+
+void Mesa::Juega(Image& Source) {
+    const Slot* const libre = LugarLibre();
+    if (!Source.Visible || !libre) return;
     libre->Imagen.Picture = Source.Picture;
     libre->Imagen.Tag = Source.Tag;
     Source.Visible = false;

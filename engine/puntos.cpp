@@ -41,8 +41,8 @@ void Mesa::AsignaRestoALUltimo(const std::string& duenio) {
     desktop_.Pause(kPausaMs);
     for (const Slot& slot : SlotsMesa()) {
         if (!slot.Ocupado()) continue;
+        slot.Retirar(DeDuenio(duenio));
         AsignoANaipe(slot.Carta(), duenio);
-        slot.Imagen.Visible = false;
     }
 }
 

@@ -10,6 +10,9 @@
 
 namespace zarpel {
 
+// The computer sits above the table, the human below.
+constexpr Side LadoDe(Jugador quien) { return quien == Jugador::Cpu ? Side::Top : Side::Bottom; }
+
 // A selected card is raised from one top to the other (twips). The computer's cards do not move.
 struct Altura {
     int Reposo, Levantada;
@@ -35,6 +38,11 @@ struct Slot {
     void Marcar(bool elegido) const;
     void Subir() const { Imagen.Top = Alturas().Levantada; }
     void Bajar() const { Imagen.Top = Alturas().Reposo; }
+    // Its card goes to that player's heap.
+    void Retirar(Jugador aQuien) const {
+        Imagen.GoesTo = LadoDe(aQuien);
+        Imagen.Visible = false;
+    }
 };
 
 }  // namespace zarpel

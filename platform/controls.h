@@ -84,6 +84,9 @@ struct FontSpec {
 
 enum class Alignment { Left, Right, Center };
 
+// Where the two players sit: the edges of the window.
+enum class Side { None, Top, Bottom };
+
 // What a screen reader says of a picture.
 struct Speech {
     std::string Name;         // what it shows
@@ -100,8 +103,12 @@ class Image : public Control {
     Property<std::string> Picture{*this};
     Property<int> Corner{*this};      // radius of the rounded corners
     Property<bool> Draggable{*this};  // a drag starts when the pointer is pressed and moved on it
-    const Image* Cover = nullptr;     // while both are shown, this picture hides the control wholly
-    std::function<Speech()> Spoken;   // empty: decoration that a screen reader passes over
+    // Hints for a front end that shows how things move: by which edge the picture that the control is given
+    // comes in, and by which the one that it had goes off. They hold for the change at hand; the front end
+    // takes them back once it has seen that.
+    Side ComesFrom = Side::None, GoesTo = Side::None;
+    const Image* Cover = nullptr;    // while both are shown, this picture hides the control wholly
+    std::function<Speech()> Spoken;  // empty: decoration that a screen reader passes over
     std::function<void()> Click;
 };
 
@@ -150,6 +157,9 @@ class Frame : public Container {
     std::function<void()> Click;  // on its bare area, not on a control in it
     // A draggable picture was dropped on the bare frame, not on a control in it.
     std::function<void(Image& source)> DragDrop;
+    // The control that would show the picture if it were dropped now, so that the place can be marked; null:
+    // none would.
+    std::function<const Image*()> DropPlace;
 };
 
 // A straight line between two points; Left, Top, Width and Height are not used.

@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 
 #include "qt/form_window.h"
+#include "qt/motion.h"
 #include "qt/views.h"
 
 namespace zarpel {
@@ -44,7 +45,8 @@ class AccessibleArea : public QAccessibleWidget {
     QList<QWidget*> Shown() const {
         QList<QWidget*> shown;
         for (auto* const child : widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (!child->isHidden() && !dynamic_cast<LineView*>(child)) shown.push_back(child);
+            if (!child->isHidden() && !dynamic_cast<LineView*>(child) && !dynamic_cast<Motion*>(child))
+                shown.push_back(child);
         }
         return shown;
     }

@@ -9,9 +9,11 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <map>
+#include <set>
 
 #include "qt/colors.h"
 #include "qt/keyboard.h"
+#include "qt/motion.h"
 
 namespace zarpel {
 namespace {
@@ -39,6 +41,16 @@ class Builder : public ControlVisitor {
         for (const auto& [image, view] : images_) {
             const auto cover = images_.find(image->Cover);
             if (cover != images_.end()) cover->second->Covers(*view);
+        }
+    }
+
+    // Covers go where the pictures go that they cover.
+    void LetMove() {
+        std::set<const Image*> covers;
+        for (const auto& [image, view] : images_) covers.insert(image->Cover);
+        for (View* const view : views_) {
+            auto* const image = dynamic_cast<ImageView*>(view);
+            if (image && !covers.contains(&image->Control())) context_.Moves->Add(*image);
         }
     }
 
@@ -129,6 +141,7 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
     if (form.Border == FormBorder::Sizable)
         client_->setMinimumSize((QSizeF(FormSize()) * kSmallest).toSize());
     layout->addWidget(client_, 1);
+    context_.Moves = new Motion(client_->Table(), context_.Scale, context_.Pictures);
     form.Changed = [this] {
         setWindowTitle(QString::fromStdString(form_.Caption));
         client_->update();
@@ -159,6 +172,7 @@ void FormWindow::Fill() {
     Builder builder(context_, views_);
     builder.Build(form_, client_->Table());
     builder.JoinCovers();
+    builder.LetMove();
 }
 
 void FormWindow::Sync() {
@@ -168,6 +182,7 @@ void FormWindow::Sync() {
         view->Follow();
         view->Sync();
     }
+    context_.Moves->Settle();  // before the first picture
 }
 
 void FormWindow::FocusFirst() {
@@ -193,6 +208,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && !updatesEnabled()) FitNow();
     if (event->type() == QEvent::WindowBlocked) {
         for (View* const view : views_) view->LetGo();
+    }
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+        context_.Moves->Dragging()) {
+        for (View* const view : views_) view->LetGo();
+        return true;
     }
     if (event->type() == QEvent::KeyPress && !QApplication::activePopupWidget()) {
         const auto& key = *static_cast<QKeyEvent*>(event);

@@ -69,7 +69,7 @@ class FormWindow : public QWidget {
     void FitNow();
 
     Form& form_;
-    const ViewContext context_;  // the views refer to it
+    ViewContext context_;  // the views refer to it
     ClientArea* client_;
     std::vector<View*> views_;  // children of the window, which owns them
 };

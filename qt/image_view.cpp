@@ -2,7 +2,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleHints>
+#include <algorithm>
 
+#include "qt/motion.h"
 #include "qt/views.h"
 
 namespace zarpel {
@@ -16,20 +18,35 @@ void ImageView::Sync() {
     }
     for (ImageView* const covered : covered_) covered->Sync();
     if (Shown()) context_.Pictures.Prepare(LookNow());
+    context_.Moves->Changed();
     update();
 }
 
 bool ImageView::Shown() const { return control_.Visible && !(control_.Cover && control_.Cover->Visible); }
 
+void ImageView::Covers(ImageView& covered) {
+    covered_.push_back(&covered);
+    covered.cover_ = this;
+}
+
 Look ImageView::LookNow() const {
     return {control_.Picture, width(), height(), context_.Scale.Pixels(control_.Corner), devicePixelRatioF()};
 }
 
-QPixmap ImageView::Pixmap() const { return context_.Pictures.Scaled(LookNow()); }
+Look ImageView::Seen() const { return cover_ && cover_->Shown() ? cover_->LookNow() : LookNow(); }
+
+void ImageView::Redraw() {
+    update();
+    if (cover_) cover_->update();
+}
+
+bool ImageView::DrawnElsewhere() const {
+    return context_.Moves->Carries(*this) ||
+           std::ranges::any_of(covered_, [](const ImageView* covered) { return covered->DrawnElsewhere(); });
+}
 
 void ImageView::paintEvent(QPaintEvent*) {
-    if (dragged_) return;  // the card is under the pointer
-    QPainter(this).drawPixmap(0, 0, Pixmap());
+    if (!DrawnElsewhere()) QPainter(this).drawPixmap(0, 0, context_.Pictures.Scaled(LookNow()));
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
@@ -41,39 +58,38 @@ void ImageView::mousePressEvent(QMouseEvent* event) {
 void ImageView::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     if (!pressed_ || !control_.Draggable) return;
-    if (!dragged_) {
-        if ((at - pressedAt_).manhattanLength() < QApplication::startDragDistance()) return;
-        dragged_ = new QLabel(window());
-        dragged_->setAttribute(Qt::WA_TransparentForMouseEvents);
-        dragged_->setPixmap(Pixmap());
-        dragged_->resize(size());
-        dragged_->show();
-        update();
-    }
-    dragged_->move(mapTo(window(), at - pressedAt_));
+    dragged_ = dragged_ || (at - pressedAt_).manhattanLength() >= QApplication::startDragDistance();
+    if (!dragged_) return;
+    const AreaView* const area = AreaAt(event->globalPosition().toPoint());
+    context_.Moves->Drag(*this, mapToGlobal(at - pressedAt_), area ? area->DropPlace() : nullptr);
 }
 
 void ImageView::mouseReleaseEvent(QMouseEvent* event) {
     if (!pressed_ || event->button() != Qt::LeftButton) return;
     pressed_ = false;
     const QPoint at = event->position().toPoint();
-    if (dragged_) return Drop(event->globalPosition().toPoint());
+    if (dragged_) {
+        AreaView* const area = AreaAt(event->globalPosition().toPoint());
+        LetGo();
+        if (area) area->Dropped(control_);
+        return;
+    }
     const bool still = (at - pressedAt_).manhattanLength() < QApplication::startDragDistance();
     if (still && rect().contains(at)) Press();
 }
 
 void ImageView::LetGo() {
     pressed_ = false;
-    delete dragged_;
-    dragged_ = nullptr;
-    update();
+    if (!dragged_) return;
+    dragged_ = false;
+    context_.Moves->LetGo();
 }
 
-// Only the bare table area takes a card; anywhere else it goes back to its place.
-void ImageView::Drop(const QPoint& global) {
-    LetGo();
-    auto* const area = dynamic_cast<AreaView*>(window()->childAt(window()->mapFromGlobal(global)));
-    if (area) area->Dropped(control_);
+// Only the bare table area takes a card, where nothing covers it, be it a window of another program; anywhere
+// else the card goes back to its place.
+AreaView* ImageView::AreaAt(const QPoint& global) const {
+    auto* const area = dynamic_cast<AreaView*>(QApplication::widgetAt(global));
+    return area && area->window() == window() ? area : nullptr;
 }
 
 }  // namespace zarpel

@@ -26,6 +26,9 @@ class TableScale {
     int Pixels(double twips) const { return static_cast<int>(std::lround(twips * factor_)); }
     int Twips(double pixels) const { return static_cast<int>(std::lround(pixels / factor_)); }
 
+    // Logical pixels to a twip.
+    double Factor() const { return factor_; }
+
     // Edges are rounded, not sizes, so that what touches in twips touches in pixels.
     QRect Pixels(const Place& place) const {
         const int left = Pixels(place.Left);

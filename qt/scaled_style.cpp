@@ -1,5 +1,8 @@
 #include "qt/scaled_style.h"
 
+#include <QApplication>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QStyleFactory>
 #include <QWidget>
 
@@ -23,9 +26,32 @@ const char* BoxPicture(QStyle::StandardPixmap icon) {
     }
 }
 
+// What the player has told the desktop: Windows asks through the toolkit, the others keep it in files.
+bool DesktopMoves() {
+#ifdef Q_OS_WIN
+    return QApplication::isEffectEnabled(Qt::UI_General);
+#else
+    const auto setting = [](const QString& file, const QString& key) {
+        const QString path = QStandardPaths::locate(QStandardPaths::GenericConfigLocation, file);
+        return path.isEmpty() ? QVariant(true) : QSettings(path, QSettings::IniFormat).value(key, true);
+    };
+    return setting(QStringLiteral("gtk-3.0/settings.ini"), QStringLiteral("Settings/gtk-enable-animations"))
+               .toBool() &&
+           setting(QStringLiteral("kdeglobals"), QStringLiteral("KDE/AnimationDurationFactor")).toDouble() >
+               0;
+#endif
+}
+
 }  // namespace
 
-ScaledStyle::ScaledStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+ScaledStyle::ScaledStyle()
+    : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))), moves_(DesktopMoves()) {}
+
+int ScaledStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* more) const {
+    if (hint == SH_Widget_Animation_Duration && !moves_) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+}
 
 // Zero and less are no sizes: they mean "none" or "as the style thinks fit".
 int ScaledStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

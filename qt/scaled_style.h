@@ -15,6 +15,11 @@ class ScaledStyle : public QProxyStyle {
     // Widgets take it up when they are made, and when their font changes.
     void Use(const TableScale& scale) { scale_ = scale; }
 
+    // Whether what changes place glides there. At first, as the desktop's settings say.
+    void LetMove(bool moves) { moves_ = moves; }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     // Those of message boxes are the game's own, which are drawn for every size.
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
@@ -23,6 +28,7 @@ class ScaledStyle : public QProxyStyle {
 
   private:
     TableScale scale_;
+    bool moves_;
 };
 
 }  // namespace zarpel

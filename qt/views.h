@@ -18,11 +18,14 @@
 
 namespace zarpel {
 
+class Motion;
+
 // What all views of a window share.
 struct ViewContext {
     const TableScale& Scale;
     PictureStore& Pictures;
     EventGate& Gate;
+    Motion* Moves = nullptr;  // the window's, which sets it
 };
 
 class View {
@@ -37,6 +40,8 @@ class View {
     // From now on, every change of the control calls Sync. Not from the beginning: before the window's size
     // is known, its controls would be laid out for nothing.
     virtual void Follow() = 0;
+    // The place of its control.
+    virtual Place Where() const = 0;
 
     // A view that can be pressed takes Press for a click of the pointer.
     virtual bool Pressable() const { return false; }
@@ -68,7 +73,9 @@ class ControlView : public Widget, public View {
         control_.Changed = [this] { Sync(); };
     }
 
-    Model& Control() { return control_; }
+    Place Where() const override { return PlaceOf(control_); }
+
+    Model& Control() const { return control_; }
 
   protected:
     virtual bool Shown() const { return control_.Visible; }
@@ -82,6 +89,8 @@ class ControlView : public Widget, public View {
     const ViewContext& context_;
 };
 
+class AreaView;
+
 // A picture: a card, its back, an ornament.
 class ImageView : public ControlView<QWidget, Image> {
   public:
@@ -89,7 +98,11 @@ class ImageView : public ControlView<QWidget, Image> {
 
     void Sync() override;
     // The view of a picture that this one covers while it is shown.
-    void Covers(ImageView& covered) { covered_.push_back(&covered); }
+    void Covers(ImageView& covered);
+    // What a player sees in its place: the cover, if there is one.
+    Look Seen() const;
+    // Draws the picture, or what covers it, again.
+    void Redraw();
     bool Pressable() const override { return control_.Click && control_.Enabled; }
     void Press() override { Raise(control_.Click); }
     void LetGo() override;
@@ -104,13 +117,14 @@ class ImageView : public ControlView<QWidget, Image> {
 
   private:
     Look LookNow() const;
-    QPixmap Pixmap() const;
-    void Drop(const QPoint& global);
+    bool DrawnElsewhere() const;
+    AreaView* AreaAt(const QPoint& global) const;
 
     std::vector<ImageView*> covered_;
+    ImageView* cover_ = nullptr;
     bool pressed_ = false;
+    bool dragged_ = false;
     QPoint pressedAt_;
-    QLabel* dragged_ = nullptr;  // the card under the pointer, while it is dragged; a child of the window
 };
 
 class LabelView : public ControlView<QLabel, Label> {
@@ -153,6 +167,8 @@ class AreaView : public ControlView<QWidget, Frame> {
     AreaView(Frame& frame, const ViewContext& context, QWidget* parent);
     void Sync() override;
     void Dropped(Image& source);
+    // Where a picture that is dropped now would lie, or null.
+    const Image* DropPlace() const { return control_.DropPlace ? control_.DropPlace() : nullptr; }
 
   protected:
     void paintEvent(QPaintEvent*) override;

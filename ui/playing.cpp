@@ -29,6 +29,7 @@ void Playing::ConnectEvents() {
     }
     LevantarBtn.Click = [this] { LevantarBtn_Click(); };
     Frame1.DragDrop = [this](Image& source) { Frame1_DragDrop(source); };
+    Frame1.DropPlace = [this] { return LugarLibre() ? &LugarLibre()->Imagen : nullptr; };
     Toolbar1.ButtonClick = [this](const std::string& key) { Toolbar1_ButtonClick(key); };
     Nuevomnu.Click = [this] { Nuevomnu_Click(); };
     abrirmnu.Click = [this] { abrirmnu_Click(); };

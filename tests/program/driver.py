@@ -210,6 +210,12 @@ def desktop(size):
         yield
 
 
+def stand_still(folder):
+    """Tells all programs that this folder of settings is for that nothing shall glide."""
+    folder.mkdir()
+    (folder / "settings.ini").write_text("[Settings]\ngtk-enable-animations=0\n")
+
+
 @contextlib.contextmanager
 def game(program, damage=lambda folder: None):
     """The program, started from a copy of its folder that `damage` may change."""
@@ -217,6 +223,7 @@ def game(program, damage=lambda folder: None):
         folder = pathlib.Path(parent, "zarpel")
         shutil.copytree(pathlib.Path(program).parent, folder)
         damage(folder)
-        home = os.environ | {"HOME": parent}
+        home = os.environ | {"HOME": parent, "XDG_CONFIG_HOME": parent}
+        stand_still(pathlib.Path(parent, "gtk-3.0"))
         with running([folder / pathlib.Path(program).name], env=home) as process:
             yield Game(process, folder)

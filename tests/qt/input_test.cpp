@@ -51,27 +51,41 @@ TEST_F(InputTest, AClickSelectsACardAndADropOnTheBareTableLaysOne) {
     EXPECT_TRUE(button.hasFocus());  // so that the space bar takes what the pointer has chosen
 }
 
-TEST_F(InputTest, ADragThatABoxInterruptsLeavesTheCardInTheHand) {
+TEST_F(InputTest, ADragThatABoxOrEscapeEndsLeavesTheCardInTheHand) {
     const auto drag = [this] {
         QTest::mousePress(Window().windowHandle(), Qt::LeftButton, {}, Middle(Game.cartap2img[0]));
         QTest::mouseMove(Window().windowHandle(), BareTable());
     };
-    const auto cardsUnderThePointer = [this] {
-        return Window().findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly).size();
-    };
-    drag();
-    EXPECT_EQ(cardsUnderThePointer(), 1);
     InBox([](QWidget& box) { box.close(); });
-    Key(Qt::Key_L, 46);  // there are no 15
-    EXPECT_EQ(cardsUnderThePointer(), 0);
-    QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
-    EXPECT_TRUE(Game.SlotsMano(Jugador::Humano)[0].Ocupado());
+    for (const Qt::Key key : {Qt::Key_L, Qt::Key_Escape}) {  // there are no 15
+        drag();
+        EXPECT_TRUE(SomethingMoves());
+        Key(key, 46);
+        EXPECT_FALSE(SomethingMoves());
+        QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
+        EXPECT_TRUE(Game.SlotsMano(Jugador::Humano)[0].Ocupado());
+    }
 
     drag();
     QTest::mouseClick(Window().windowHandle(), Qt::RightButton, {}, BareTable());
     QTest::mouseRelease(Window().windowHandle(), Qt::LeftButton, {}, BareTable());
     EXPECT_FALSE(Game.SlotsMano(Jugador::Humano)[0].Ocupado());
-    EXPECT_EQ(cardsUnderThePointer(), 0);
+    EXPECT_FALSE(SomethingMoves());
+}
+
+TEST_F(InputTest, ACardGlidesToWhereAClickFindsItAlready) {
+    LetMove(true);
+    const QPoint target = Middle(Game.mesaimg[2]);
+    Desktop.OnPause = [&] {
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !SomethingMoves(); }));
+        EXPECT_EQ(Window().grab().toImage().pixelColor(target), ColorOfCard(Card(8, 'o')));
+    };
+    Key(Qt::Key_Exclam, 10, Qt::ShiftModifier);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(SomethingMoves());  // the computer's card
+    Click(Middle(Game.mesaimg[3]));
+    EXPECT_EQ(Game.Suma(), 3);
 }
 
 TEST_F(InputTest, TheSecondClickOfADoubleClickIsForNothing) {

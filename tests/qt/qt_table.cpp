@@ -1,7 +1,10 @@
 #include "tests/qt/qt_table.h"
 
+#include <algorithm>
+
 #include "engine/classnaipe.h"
 #include "qt/files.h"
+#include "qt/motion.h"
 
 namespace zarpel {
 
@@ -15,6 +18,7 @@ QColor ColorOfCard(int carta) { return {200, 6 * carta, 40}; }
 
 // The installation, with real pictures.
 QtTable::QtTable() {
+    LetMove(false);
     const auto here = [this](const std::string& path) {
         return Folder.filePath(QString::fromStdString(path).section('\\', -1));
     };
@@ -31,6 +35,12 @@ QtTable::QtTable() {
 QtTable::~QtTable() {
     Desktop.Pass(Game, [this] { Desktop.Unload(Game); });
     while (Desktop.WindowOf(Game)) QCoreApplication::processEvents();
+}
+
+bool QtTable::SomethingMoves() {
+    return std::ranges::any_of(QApplication::allWidgets(), [this](QWidget* widget) {
+        return dynamic_cast<Motion*>(widget) && widget->window() == &Window() && widget->isVisible();
+    });
 }
 
 QPoint QtTable::Middle(Image& image) {

@@ -54,6 +54,11 @@ class QtTable : public testing::Test {
     // What the player does in the next modal window; called while that is open.
     static void InBox(std::function<void(QWidget&)> action);
 
+    // Something lies over the table, gliding or under the pointer.
+    bool SomethingMoves();
+    // Whether cards glide; they do not at first.
+    static void LetMove(bool moves) { dynamic_cast<ScaledStyle&>(*QApplication::style()).LetMove(moves); }
+
     QTemporaryDir Folder;
     QuickDesktop Desktop{Folder.path().toStdString(), "Zarpel"};
     Playing Game{Desktop};
