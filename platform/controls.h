@@ -133,6 +133,7 @@ class Label : public Control {
     Property<bool> AutoSize{*this};  // grows and shrinks with its text, up to MaxWidth
     Property<int> MaxWidth{*this};   // 0: up to the container's edge
     Property<bool> WordWrap{*this};
+    Property<bool> IsPath{*this};  // one that is too long is shortened in the middle, not made smaller
     Property<Alignment> Align{*this};
     std::string SpokenAs;    // what a screen reader calls it; empty: its caption
     bool Announced = false;  // a screen reader is told when the caption changes, once the event is over

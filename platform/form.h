@@ -21,6 +21,7 @@ class Form : public Container {
 
     FormBorder Border = FormBorder::Sizable;
     bool CenterOnScreen = false;  // else a dialog opens over the window below it
+    Place BoxArea;                // where boxes stand that open above it; of no size: in its middle
     std::vector<Menu*> Menus;
 
     // Every key pressed while the window is active, before the focused control gets it (which it still does).

@@ -1,6 +1,8 @@
 #include "qt/colors.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace zarpel {
 namespace {
@@ -34,6 +36,13 @@ constexpr std::array<QRgb, kLastPaletteNumber + 1> kPalette = {
     0xFFFFE1,  // tooltip
 };
 
+double Luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
 }  // namespace
 
 QColor ColorOf(ColorCode code) {
@@ -43,5 +52,30 @@ QColor ColorOf(ColorCode code) {
 }
 
 ColorCode CodeOf(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
+
+QPalette ClassicPalette() {
+    enum : std::size_t { kHighlight = 13, kHighlightText, kButtonFace, kLight = 22, kToolTipText, kToolTip };
+    const auto color = [](std::size_t number) { return QColor(kPalette.at(number)); };
+    QPalette palette(color(kButtonFace), color(kButtonFace));
+    palette.setColor(QPalette::Highlight, color(kHighlight));
+    palette.setColor(QPalette::HighlightedText, color(kHighlightText));
+    palette.setColor(QPalette::ToolTipBase, color(kToolTip));
+    palette.setColor(QPalette::ToolTipText, color(kToolTipText));
+    palette.setColor(QPalette::AlternateBase, color(kLight));
+    // A role that is not set would be the desktop's.
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (int i = 0; i < QPalette::NColorRoles; ++i) {
+            const auto role = static_cast<QPalette::ColorRole>(i);
+            palette.setColor(group, role, palette.color(group, role));
+        }
+    }
+    return palette;
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    constexpr double kGlare = 0.05;
+    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
+    return (lighter + kGlare) / (darker + kGlare);
+}
 
 }  // namespace zarpel

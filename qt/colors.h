@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include "platform/color.h"
 
@@ -13,5 +14,11 @@ QColor ColorOf(ColorCode code);
 
 // The code of an opaque colour.
 ColorCode CodeOf(const QColor& color);
+
+// What the toolkit's own parts are drawn in: the classic colours, none of them the desktop's.
+QPalette ClassicPalette();
+
+// How well two colours can be told apart, from 1 (not at all) to 21, as the WCAG reckon it.
+double Contrast(const QColor& one, const QColor& other);
 
 }  // namespace zarpel

@@ -1,10 +1,13 @@
 #include "qt/dialogs.h"
 
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 #include <array>
 
@@ -17,54 +20,109 @@ namespace {
 constexpr std::array kIcons = {QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Question,
                                QMessageBox::Warning, QMessageBox::Information};
 
-// A box breaks its lines after so many pixels, whatever the size of the letters; a short text stays on one
-// line all the same. `kWidest` is what fits beside the icon into the largest box that the toolkit makes.
-void KeepLines(QMessageBox& box) {
-    constexpr int kWidest = 700, kLetters = 50;
-    auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    if (!label) return;
-    const int letters = kLetters * box.fontMetrics().averageCharWidth();
-    label->setMinimumWidth(std::min({label->sizeHint().width(), letters, kWidest}));
+// What a title needs to be read whole, in pixels: the desktop draws it, in its own letters, beside its
+// buttons.
+int TitleWidth(const QString& title) {
+    constexpr int kLetters = 15, kButtons = 150;
+    QFont font;
+    font.setBold(true);
+    font.setPixelSize(std::max(kLetters, font.pixelSize()));
+    return QFontMetrics(font).horizontalAdvance(title) + kButtons;
 }
+
+// The text with words that are no wider than this, and with no more lines than fit into the height (pixels).
+QString Bounded(const QString& text, const QFontMetrics& letters, const QSize& room) {
+    QStringList lines = text.split('\n');
+    for (QString& line : lines) {
+        QStringList words = line.split(' ');
+        for (QString& word : words) word = letters.elidedText(word, Qt::ElideMiddle, room.width());
+        line = words.join(' ');
+    }
+    QString bounded = lines.join('\n');
+    const QRect paper(0, 0, room.width(), QWIDGETSIZE_MAX);
+    while (letters.boundingRect(paper, Qt::TextWordWrap, bounded).height() > room.height()) {
+        bounded = bounded.left(bounded.size() / 2) + QStringLiteral("…");
+    }
+    return bounded;
+}
+
+class Box : public QMessageBox {
+  public:
+    Box(const Site& site, const Message& message, const QString& title)
+        : QMessageBox(site.Owner), site_(site) {
+        setTextFormat(Qt::PlainText);  // a nickname is no markup
+        setWindowTitle(title);
+        setIcon(kIcons.at(static_cast<std::size_t>(message.Icon)));
+        SetLines(QString::fromStdString(message.Text));
+        setStandardButtons(message.Buttons == BoxButtons::Ok ? Ok : Yes | No);
+        if (message.Buttons == BoxButtons::Ok) return;
+        setDefaultButton(message.Preselected == Answer::No ? No : Yes);
+        mustAnswer_ = message.Preselected != Answer::No;
+    }
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        PlaceAt(site_, *this);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (!mustAnswer_) return QMessageBox::closeEvent(event);
+        event->ignore();
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!mustAnswer_ || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+    }
+
+  private:
+    // A box breaks its lines after so many pixels, whatever the size of the letters; a short text stays on
+    // one line all the same. `kWidest` is what the toolkit gives the text of a box at most, beside the icon.
+    void SetLines(const QString& text) {
+        constexpr int kWidest = 700, kLetters = 50, kLargeScreen = 1024, kBesides = 480;
+        constexpr double kOfBox = 0.7, kOfScreen = 0.5;
+        const QSize room = screen()->availableSize();
+        const int box = room.width() > kLargeScreen ? room.width() - kBesides : room.width();
+        const int widest =
+            std::min({int(box * kOfBox), kWidest, kLetters * fontMetrics().averageCharWidth()});
+        setText(Bounded(text, fontMetrics(), {widest, int(room.height() * kOfScreen)}));
+        auto* const label = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        if (!label) return;
+        label->setMinimumWidth(
+            std::max(std::min(label->sizeHint().width(), widest), TitleWidth(windowTitle())));
+    }
+
+    Site site_;
+    bool mustAnswer_ = false;  // neither Escape nor the title bar's button answers for the player
+};
 
 }  // namespace
 
-Answer Show(QWidget* owner, const Message& message, const std::string& applicationTitle) {
-    QMessageBox box(owner);
-    box.setTextFormat(Qt::PlainText);  // a nickname is no markup
-    box.setText(QString::fromStdString(message.Text));
-    box.setWindowTitle(QString::fromStdString(message.Title.empty() ? applicationTitle : message.Title));
-    box.setIcon(kIcons.at(static_cast<std::size_t>(message.Icon)));
-    KeepLines(box);
-    if (message.Buttons == BoxButtons::Ok) {
-        box.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
-        box.exec();
-        return Answer::Ok;
-    }
-    QPushButton* const yes = box.addButton(QStringLiteral("Sí"), QMessageBox::YesRole);
-    QPushButton* const no = box.addButton(QStringLiteral("No"), QMessageBox::NoRole);
-    box.setDefaultButton(message.Preselected == Answer::No ? no : yes);
-    box.setEscapeButton(no);
-    box.exec();
-    return box.clickedButton() == yes ? Answer::Yes : Answer::No;
+Answer Show(const Site& site, const Message& message, const std::string& applicationTitle) {
+    Box box(site, message, QString::fromStdString(message.Title.empty() ? applicationTitle : message.Title));
+    const int pressed = box.exec();
+    if (message.Buttons == BoxButtons::Ok) return Answer::Ok;
+    return pressed == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
-std::string InputBox(QWidget* owner, const std::string& prompt, const std::string& title,
+std::string InputBox(const Site& site, const std::string& prompt, const std::string& title,
                      const std::string& proposed) {
-    QInputDialog box(owner);
+    QInputDialog box(site.Owner);
     box.setWindowTitle(QString::fromStdString(title));
     box.setLabelText(QString::fromStdString(prompt));
     box.setTextValue(QString::fromStdString(proposed));
-    box.setOkButtonText(QStringLiteral("Aceptar"));
-    box.setCancelButtonText(QStringLiteral("Cancelar"));
+    if (auto* const line = box.findChild<QLineEdit*>()) line->setMinimumWidth(TitleWidth(box.windowTitle()));
+    box.adjustSize();
+    PlaceAt(site, box);
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
-bool ShowColor(QWidget* owner, ChooserState& dialog) {
-    const QColor chosen = QColorDialog::getColor(ColorOf(dialog.Color), owner, QStringLiteral("Color"),
-                                                 QColorDialog::DontUseNativeDialog);
-    if (!chosen.isValid()) return false;
-    dialog.Color = CodeOf(chosen);
+bool ShowColor(const Site& site, ChooserState& dialog) {
+    QColorDialog box(ColorOf(dialog.Color), site.Owner);
+    box.setOption(QColorDialog::DontUseNativeDialog);  // native ones speak the system's language
+    box.setWindowTitle(QStringLiteral("Color"));
+    box.adjustSize();
+    PlaceAt(site, box);
+    if (box.exec() != QDialog::Accepted) return false;
+    dialog.Color = CodeOf(box.selectedColor());
     return true;
 }
 

@@ -2,16 +2,14 @@
 // ask.
 #pragma once
 
-#include <QWidget>
-
 #include "platform/controls.h"
 #include "qt/game_paths.h"
+#include "qt/placing.h"
 
 namespace zarpel {
 
-// Each blocks until the player has answered; `owner` is the window it stands above, or null. They do what
-// Desktop::ShowOpen and Desktop::ShowSave say.
-bool ShowOpen(QWidget* owner, const GamePaths& paths, ChooserState& dialog);
-bool ShowSave(QWidget* owner, const GamePaths& paths, ChooserState& dialog);
+// Each blocks until the player has answered, and does what the call of Desktop of the same name says.
+bool ShowOpen(const Site& site, const GamePaths& paths, ChooserState& dialog);
+bool ShowSave(const Site& site, const GamePaths& paths, ChooserState& dialog);
 
 }  // namespace zarpel

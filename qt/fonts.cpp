@@ -65,4 +65,8 @@ FittedText FitText(const QString& text, QFont font, const QSize& room, bool wrap
     return {font, QFontMetrics(font).elidedText(text, Qt::ElideRight, room.width())};
 }
 
+FittedText ShortenPath(const QString& path, const QFont& font, int width) {
+    return {font, QFontMetrics(font).elidedText(path, Qt::ElideMiddle, width)};
+}
+
 }  // namespace zarpel

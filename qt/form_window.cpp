@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "qt/colors.h"
 #include "qt/keyboard.h"
@@ -19,7 +20,10 @@ namespace zarpel {
 namespace {
 
 // Of the main window's client area, in pixels for a twip: here every text can still be read.
-constexpr double kSmallest = 0.7 / kTwipsPerPixel;
+constexpr double kSmallest = 0.8 / kTwipsPerPixel;
+
+// A window that has not been moved for so long stays where it is.
+constexpr int kRestMs = 100;
 
 constexpr Qt::WindowFlags kDialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                          Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
@@ -30,10 +34,11 @@ class Builder : public ControlVisitor {
     Builder(const ViewContext& context, std::vector<View*>& views) : context_(context), views_(views) {}
 
     void Build(const Container& container, QWidget* parent) {
-        QWidget* const outer = parent_;
-        parent_ = parent;
+        QWidget* const outer = std::exchange(parent_, parent);
+        const Container* const around = std::exchange(container_, &container);
         for (Control* const child : container.Children) child->Accept(*this);
         parent_ = outer;
+        container_ = around;
     }
 
     // A covered picture is drawn again when its cover changes.
@@ -56,7 +61,7 @@ class Builder : public ControlVisitor {
 
     void Visit(Image& image) override { images_[&image] = Add<ImageView>(image); }
     void Visit(CheckBox&) override {}  // kept, not drawn
-    void Visit(Label& label) override { Add<LabelView>(label); }
+    void Visit(Label& label) override { Add<LabelView>(label)->StandsOn(*container_); }
     void Visit(Button& button) override { Add<ButtonView>(button); }
     void Visit(Line& line) override { Add<LineView>(line); }
     void Visit(ToolBar& bar) override { Add<ToolBarView>(bar); }
@@ -83,7 +88,8 @@ class Builder : public ControlVisitor {
 
     const ViewContext& context_;
     std::vector<View*>& views_;
-    QWidget* parent_ = nullptr;
+    QWidget* parent_ = nullptr;  // draws container_
+    const Container* container_ = nullptr;
     std::map<const Image*, ImageView*> images_;
 };
 
@@ -142,6 +148,11 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
         client_->setMinimumSize((QSizeF(FormSize()) * kSmallest).toSize());
     layout->addWidget(client_, 1);
     context_.Moves = new Motion(client_->Table(), context_.Scale, context_.Pictures);
+    moved_.setSingleShot(true);
+    moved_.setInterval(kRestMs);
+    if (form.Border == FormBorder::Sizable) {
+        connect(&moved_, &QTimer::timeout, this, [this] { KeepOnScreen(*this, FormSize()); });
+    }
     form.Changed = [this] {
         setWindowTitle(QString::fromStdString(form_.Caption));
         client_->update();
@@ -176,6 +187,8 @@ void FormWindow::Fill() {
 }
 
 void FormWindow::Sync() {
+    if (form_.Border == FormBorder::FixedDialog)
+        setFixedSize(context_.Scale.Pixels(Place{0, 0, form_.Width, form_.Height}).size());
     form_.Refresh();
     client_->Arrange();
     for (View* const view : views_) {
@@ -191,21 +204,33 @@ void FormWindow::FocusFirst() {
 }
 
 void FormWindow::PlaceDialog() {
-    setFixedSize(context_.Scale.Pixels(form_.Width), context_.Scale.Pixels(form_.Height));
     Sync();
+    auto* const below = dynamic_cast<FormWindow*>(parentWidget());
+    Site site = below ? below->Middle() : Site{nullptr, screen()->geometry()};
     if (form_.CenterOnScreen) {
-        move(screen()->geometry().topLeft() +
-             QPoint(context_.Scale.Pixels(form_.Left), context_.Scale.Pixels(form_.Top)));
-        return;
+        site.Area =
+            rect().translated(screen()->geometry().topLeft() +
+                              QPoint(context_.Scale.Pixels(form_.Left), context_.Scale.Pixels(form_.Top)));
     }
-    const QRect below = parentWidget() ? parentWidget()->window()->frameGeometry() : screen()->geometry();
-    move(below.center() - rect().center());
+    PlaceAt(site, *this);
+}
+
+QRect FormWindow::OnScreen(const Place& place) const {
+    const QWidget& table = *client_->Table();
+    return context_.Scale.Pixels(place).translated(table.mapToGlobal(QPoint()));
+}
+
+Site FormWindow::Middle() { return {this, OnScreen({0, 0, form_.Width, form_.Height})}; }
+
+Site FormWindow::BoxSite() {
+    return form_.BoxArea.Width > 0 ? Site{this, OnScreen(form_.BoxArea)} : Middle();
 }
 
 // Key preview: the window sees a key before the focused control, which gets it afterwards all the same. A key
 // that repeats because it is held down counts once, so that it cannot fill the computer's pause with moves.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && !updatesEnabled()) FitNow();
+    if (event->type() == QEvent::ThemeChange && Themed) Themed();
     if (event->type() == QEvent::WindowBlocked) {
         for (View* const view : views_) view->LetGo();
     }
@@ -234,6 +259,16 @@ void FormWindow::FitNow() {
     if (!Fit || !windowHandle() || !windowHandle()->isExposed()) return;
     Fit();
     setUpdatesEnabled(true);
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    FitNow();
+    moved_.start();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) moved_.start();
+    QWidget::changeEvent(event);
 }
 
 // Keys reach the native window first; it exists only once the widget is shown.

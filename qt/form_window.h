@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "qt/placing.h"
 #include "qt/views.h"
 
 namespace zarpel {
@@ -43,14 +44,21 @@ class FormWindow : public QWidget {
     // Called when the room that the form has on the screen becomes known, and whenever it changes. Nothing is
     // painted before the first call.
     std::function<void()> Fit;
+    // Called when the desktop's theme has changed.
+    std::function<void()> Themed;
 
-    // Brings every widget into step with its control; needed when the scale has changed.
+    // Brings every widget into step with its control; needed when the scale has changed. A dialog gets the
+    // size of its form.
     void Sync();
-    // Gives a dialog the size of its form, and its place.
+    // Gives a dialog its place.
     void PlaceDialog();
 
     // Gives the focus to the default button, or else to the first control that takes it.
     void FocusFirst();
+
+    // Where boxes and choosers stand: over the part of the form that it keeps for them, or over all of it.
+    Site BoxSite();
+    Site Middle();
 
     // Size of the client area, with the menu bar in its present font.
     QSize ClientSize() const;
@@ -60,17 +68,21 @@ class FormWindow : public QWidget {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent*) override;
-    void resizeEvent(QResizeEvent*) override { FitNow(); }
+    void resizeEvent(QResizeEvent*) override;
+    void moveEvent(QMoveEvent*) override { moved_.start(); }
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
   private:
     void AddMenus();
     void FitNow();
+    QRect OnScreen(const Place& place) const;
 
     Form& form_;
     ViewContext context_;  // the views refer to it
     ClientArea* client_;
+    QTimer moved_;              // runs out when the window has come to rest
     std::vector<View*> views_;  // children of the window, which owns them
 };
 

@@ -168,8 +168,8 @@ void Motion::LetGo() {
     dragged_.reset();
     Land([&dragged](const Flight& flight) { return flight.View == dragged.View; });
     if (Shows()) {
-        TakeOff({dragged.View, dragged.View->Seen(), dragged.At, PlaceIn(table_, *dragged.View),
-                 now_, kGlideMs});
+        TakeOff(
+            {dragged.View, dragged.View->Seen(), dragged.At, PlaceIn(table_, *dragged.View), now_, kGlideMs});
     }
     dragged.View->update();
     Advance();

@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 #include "qt/accessibility.h"
+#include "qt/colors.h"
 #include "qt/dialogs.h"
 #include "qt/file_chooser.h"
 #include "qt/files.h"
@@ -44,8 +45,9 @@ struct BusyPointer {
     BusyPointer& operator=(const BusyPointer&) = delete;
 };
 
-// The texts of the toolkit's own dialogs; the game's boxes bring theirs.
+// The texts of the toolkit's own dialogs.
 void SpeakSpanish() {
+    if (qApp->findChild<QTranslator*>()) return;
     auto* const translator = new QTranslator(qApp);
     if (translator->load(QStringLiteral(":/qtbase_es.qm"))) QApplication::installTranslator(translator);
 }
@@ -56,10 +58,9 @@ QtDesktop::QtDesktop(const std::string& folder, std::string title)
     : paths_(folder), title_(std::move(title)), style_(new ScaledStyle) {
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     QApplication::setStyle(style_);
-    QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setApplicationDisplayName(QString());
     QApplication::setQuitOnLastWindowClosed(false);  // a box can be the last window, and the game go on
-    QApplication::setFont(FontOf({}, scale_));
+    UseLook();
     InstallAccessibility();
 }
 
@@ -75,7 +76,12 @@ FormWindow* QtDesktop::WindowOf(const Form& form) const {
     return found == opened_.end() ? nullptr : found->Window.get();
 }
 
-QWidget* QtDesktop::TopWindow() const { return opened_.empty() ? nullptr : opened_.back().Window.get(); }
+FormWindow* QtDesktop::TopWindow() const { return opened_.empty() ? nullptr : opened_.back().Window.get(); }
+
+void QtDesktop::UseLook() {
+    QApplication::setPalette(ClassicPalette());
+    QApplication::setFont(FontOf({}, scale_));
+}
 
 FormWindow& QtDesktop::Open(Form& form, std::function<void()> unloaded) {
     auto window =
@@ -101,6 +107,7 @@ void QtDesktop::Show(Form& form) {
 void QtDesktop::ShowMaximised(FormWindow& window) {
     UseScale(window.FormSize(), window.screen()->availableSize());
     window.Fit = [this, &window] { Fit(window); };
+    window.Themed = [this] { UseLook(); };
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     window.Fill();
@@ -163,19 +170,26 @@ Place QtDesktop::Screen() const {
 
 // --- Boxes and choosers ---
 
+Site QtDesktop::BoxSite() const {
+    SpeakSpanish();  // the first box may come before the time for it
+    return TopWindow() ? TopWindow()->BoxSite() : Site{nullptr, QApplication::primaryScreen()->geometry()};
+}
+
+Site QtDesktop::ChooserSite() const { return TopWindow() ? TopWindow()->Middle() : BoxSite(); }
+
 Answer QtDesktop::Show(const Message& message) {
     stray_.DropWaiting();
-    return zarpel::Show(TopWindow(), message, Title());
+    return zarpel::Show(BoxSite(), message, Title());
 }
 
 std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
                                 const std::string& proposed) {
-    return zarpel::InputBox(TopWindow(), prompt, title, proposed);
+    return zarpel::InputBox(BoxSite(), prompt, title, proposed);
 }
 
-bool QtDesktop::ShowOpen(ChooserState& dialog) { return zarpel::ShowOpen(TopWindow(), paths_, dialog); }
-bool QtDesktop::ShowSave(ChooserState& dialog) { return zarpel::ShowSave(TopWindow(), paths_, dialog); }
-bool QtDesktop::ShowColor(ChooserState& dialog) { return zarpel::ShowColor(TopWindow(), dialog); }
+bool QtDesktop::ShowOpen(ChooserState& dialog) { return zarpel::ShowOpen(ChooserSite(), paths_, dialog); }
+bool QtDesktop::ShowSave(ChooserState& dialog) { return zarpel::ShowSave(ChooserSite(), paths_, dialog); }
+bool QtDesktop::ShowColor(ChooserState& dialog) { return zarpel::ShowColor(ChooserSite(), dialog); }
 
 // --- Files ---
 

@@ -79,7 +79,12 @@ class QtDesktop : public Desktop {
     void Fit(FormWindow& window);
     // The scale at which a form of this size fits into a client area of that.
     void UseScale(const QSize& form, const QSize& client);
-    QWidget* TopWindow() const;
+    // Gives the toolkit's own parts the game's look.
+    void UseLook();
+    FormWindow* TopWindow() const;
+    // Where boxes stand now, and choosers, which are larger.
+    Site BoxSite() const;
+    Site ChooserSite() const;
 
     GamePaths paths_;
     std::string title_;

@@ -50,6 +50,7 @@ ScaledStyle::ScaledStyle()
 int ScaledStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* more) const {
     if (hint == SH_Widget_Animation_Duration && !moves_) return 0;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, more);
 }
 

@@ -18,6 +18,7 @@ class ScaledStyle : public QProxyStyle {
     // Whether what changes place glides there. At first, as the desktop's settings say.
     void LetMove(bool moves) { moves_ = moves; }
 
+    // No button has an icon, whatever the desktop would like.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;

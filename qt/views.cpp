@@ -4,8 +4,6 @@
 #include <QDateTime>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include "qt/colors.h"
 #include "qt/fonts.h"
@@ -26,6 +24,7 @@ LabelView::LabelView(Label& label, const ViewContext& context, QWidget* parent)
     : ControlView(label, context, parent) {
     setTextFormat(Qt::PlainText);
     if (label.Click) setFocusPolicy(Qt::TabFocus);
+    if (label.Click) setCursor(Qt::PointingHandCursor);
     saying_.setSingleShot(true);
     connect(&saying_, &QTimer::timeout, this, [this] { Say(); });
 }
@@ -54,12 +53,13 @@ void LabelView::Sync() {
     const QString caption = QString::fromStdString(control_.Caption);
     const QFont wanted = FontOf(control_.Font, context_.Scale);
     setGeometry(Room(wanted));
-    const FittedText fitted = FitText(caption, wanted, size(), control_.WordWrap);
+    const FittedText fitted = control_.IsPath ? ShortenPath(caption, wanted, width())
+                                              : FitText(caption, wanted, size(), control_.WordWrap);
     setFont(fitted.Font);
     drawn_ = fitted.Text;
     // What is hard to read is said by the tooltip.
     const bool small = fitted.Font.pixelSize() < wanted.pixelSize() || drawn_ != caption;
-    if (small) setToolTip(Qt::convertFromPlainText(caption));
+    if (small) setToolTip(Qt::convertFromPlainText((toolTip() + '\n' + caption).trimmed()));
     // While the computer thinks, the sum changes with every card that it tries, those of its hand included. A
     // screen reader is told what stands when the event loop goes on.
     if (control_.Announced) {
@@ -79,20 +79,39 @@ void LabelView::Say() {
     setAccessibleDescription(caption);
 }
 
-void LabelView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    if (control_.Opaque) painter.fillRect(rect(), ColorOf(control_.BackColor));
-    painter.setPen(ColorOf(control_.ForeColor));
-    if (control_.Border) painter.drawRect(rect().adjusted(0, 0, -1, -1));
+void LabelView::Write(QPainter& painter, const QPoint& offset) const {
     const int across = control_.Align == Alignment::Center  ? Qt::AlignHCenter
                        : control_.Align == Alignment::Right ? Qt::AlignRight
                                                             : Qt::AlignLeft;
     const int wrap = control_.WordWrap ? Qt::TextWordWrap : Qt::TextSingleLine;
-    painter.drawText(rect(), across | (control_.Border ? Qt::AlignVCenter : Qt::AlignTop) | wrap, drawn_);
+    const int down = control_.Border ? Qt::AlignVCenter : Qt::AlignTop;
+    painter.drawText(rect().translated(offset), across | down | wrap, drawn_);
+}
+
+// Letters that the ground would swallow have a thin outline. The focus is a line in black and white around
+// the edge, which shows on every colour and changes none.
+void LabelView::paintEvent(QPaintEvent*) {
+    constexpr double kLeastContrast = 3;
+    QPainter painter(this);
+    const QColor letters = ColorOf(control_.ForeColor);
+    const QColor ground = ColorOf(control_.Opaque ? control_.BackColor : ground_->BackColor);
+    if (control_.Opaque) painter.fillRect(rect(), ground);
+    if (Contrast(letters, ground) < kLeastContrast) {
+        const int thin = std::max(1, context_.Scale.Enlarged(1) / 2);
+        painter.setPen(Contrast(letters, Qt::black) > Contrast(letters, Qt::white) ? Qt::black : Qt::white);
+        for (const QPoint side :
+             {QPoint(-1, 0), {1, 0}, {0, -1}, {0, 1}, {-1, -1}, {1, 1}, {-1, 1}, {1, -1}}) {
+            Write(painter, side * thin);
+        }
+    }
+    painter.setPen(letters);
+    Write(painter, {});
+    if (control_.Border) painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (!hasFocus()) return;
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(QPen(Qt::white, 1, Qt::DashLine));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void LabelView::keyPressEvent(QKeyEvent* event) {
@@ -149,6 +168,11 @@ void AreaView::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ColorO
 void AreaView::Dropped(Image& source) {
     if (!control_.DragDrop) return;
     Raise([this, &source] { control_.DragDrop(source); });
+}
+
+FrameView::FrameView(Frame& frame, const ViewContext& context, QWidget* parent)
+    : ControlView(frame, context, parent) {
+    if (frame.Click) setCursor(Qt::PointingHandCursor);
 }
 
 void FrameView::Sync() {
@@ -235,7 +259,8 @@ void StatusBarView::Sync() {
     int left = 0;
     for (std::size_t i = 0; i < panels_.size(); ++i) {
         const int width = control_.Panels[i].Width;
-        panels_[i]->setGeometry(context_.Scale.Pixels(Place{left, 0, width, control_.Height}));
+        const QRect panel = context_.Scale.Pixels(Place{left, 0, width, control_.Height});
+        panels_[i]->setGeometry(panel.intersected(rect()));
         left += width;
     }
     // Nobody sees a hidden clock go.
@@ -270,6 +295,11 @@ void StatusBarView::ShowClock() {
 
 TabStripView::TabStripView(TabStrip& strip, const ViewContext& context, QWidget* parent)
     : ControlView(strip, context, parent) {
+    // The style draws a strip so much lighter than a button; the page in it has the button's colour.
+    constexpr int kLighter = 105;  // per cent
+    QPalette own = palette();
+    own.setColor(QPalette::Button, own.button().color().darker(kLighter));
+    setPalette(own);
     for (const TabStrip::Tab& tab : strip.Tabs) {
         const int index = addTab(new QWidget, QString::fromStdString(tab.Caption));
         setTabToolTip(index, QString::fromStdString(tab.ToolTip));

@@ -131,6 +131,8 @@ class LabelView : public ControlView<QLabel, Label> {
   public:
     LabelView(Label& label, const ViewContext& context, QWidget* parent);
     void Sync() override;
+    // What is seen around the letters.
+    void StandsOn(const Container& ground) { ground_ = &ground; }
     bool Pressable() const override { return control_.Click != nullptr; }
     void Press() override { Raise(control_.Click); }
 
@@ -141,10 +143,12 @@ class LabelView : public ControlView<QLabel, Label> {
 
   private:
     QRect Room(const QFont& font) const;
+    void Write(QPainter& painter, const QPoint& offset) const;
     void Say();
 
     QTimer saying_;
 
+    const Container* ground_ = nullptr;
     QString drawn_;  // the caption, or as much of it as there is room for
 };
 
@@ -176,7 +180,7 @@ class AreaView : public ControlView<QWidget, Frame> {
 
 class FrameView : public ControlView<QGroupBox, Frame> {
   public:
-    using ControlView::ControlView;
+    FrameView(Frame& frame, const ViewContext& context, QWidget* parent);
     void Sync() override;
 
   protected:

@@ -72,6 +72,7 @@ void Playing::Design() {
     BackColor = kTableGreen;
     Width = 12000;
     Height = 8400;
+    BoxArea = {0, 0, Width, 3000};  // over the computer's hand, where no box hides what the player has chosen
     CommonDialog.DefaultExt = "zrp";
     CommonDialog.Filter = "(*.zrp)|*.zrp";
     CommonDialog.Color = kBlack;  // the file name last chosen outlives the reload that opens it

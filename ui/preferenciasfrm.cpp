@@ -52,6 +52,13 @@ void preferenciasfrm::Design() {
     Draw(*this,
          {{cmdOK, {3690, 4455, 1095, 375}, "Aceptar"}, {cmdCancel, {4920, 4455, 1095, 375}, "Cancelar"}});
     cmdCancel.Cancel = true;
+    Label5.IsPath = true;
+    Label8.IsPath = true;
+    Label1.ToolTip = "Elegir el color de la mesa";
+    Label6.ToolTip = "Elegir el color del rectángulo de las cartas";
+    Label8.ToolTip = "Elegir la imagen del reverso de las cartas";
+    Label5.ToolTip = "Elegir el programa que abre el botón Run";
+    Frame3.ToolTip = Label5.ToolTip;
 }
 
 void preferenciasfrm::ConnectEvents() {
@@ -71,6 +78,7 @@ void preferenciasfrm::Form_Load() {
     Left = (screen.Width - Width) / 2;
     Top = (screen.Height - Height) / 2;
     ValoresActuales();
+    tbsOptions_Click();  // the page stands where the click on a tab puts it
 }
 
 void preferenciasfrm::ValoresActuales() {

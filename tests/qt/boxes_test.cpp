@@ -33,14 +33,26 @@ TEST_F(BoxesTest, ABoxSaysWhatItWasGivenAndTakesEveryAnswer) {
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
             EXPECT_EQ(box.icon(), QMessageBox::Critical);
             Leave(widget, pressed);
+            if (box.isVisible()) Leave(widget, Qt::Key_Return);
         });
         return Desktop.Show(message);
     };
     EXPECT_EQ(answer(ok, Qt::Key_Escape), Answer::Ok);
     EXPECT_EQ(answer(yes, Qt::Key_Return), Answer::Yes);
-    EXPECT_EQ(answer(yes, Qt::Key_Escape), Answer::No);
-    EXPECT_EQ(answer(yes, kTitleBar), Answer::No);
-    EXPECT_EQ(answer(no, Qt::Key_Enter), Answer::No);
+    EXPECT_EQ(answer(yes, Qt::Key_Escape), Answer::Yes) << "which leaves the box open";
+    EXPECT_EQ(answer(yes, kTitleBar), Answer::Yes);
+    for (const Qt::Key key : {Qt::Key_Enter, Qt::Key_Escape, kTitleBar}) {
+        EXPECT_EQ(answer(no, key), Answer::No);
+    }
+    std::string words;
+    while (words.size() < 60'000) words += "Ana ";
+    for (const std::string& nickname : {std::string(60'000, 'W'), words}) {
+        InBox([&](QWidget& box) {
+            EXPECT_TRUE(box.screen()->availableGeometry().contains(box.frameGeometry())) << nickname.front();
+            box.close();
+        });
+        Desktop.Show({.Text = "Gana " + nickname});
+    }
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         InBox([key](QWidget& box) { Leave(box, key); });
         EXPECT_EQ(Desktop.InputBox("Nombre", "Jugador", "Ana"), key == Qt::Key_Return ? "Ana" : "");

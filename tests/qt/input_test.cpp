@@ -182,7 +182,7 @@ TEST_F(InputTest, TheTableIsWholeAndInTheMiddleOfEveryWindow) {
     const QWidget& client = *table.parentWidget();
     const struct {
         QSize Window, Table;
-    } cases[] = {{{800, 0}, {800, 560}}, {{1600, 600}, {857, 600}}, {{600, 1200}, {600, 420}}};
+    } cases[] = {{{800, 0}, {800, 560}}, {{1600, 600}, {857, 600}}, {{700, 1200}, {700, 490}}};
     for (const auto& c : cases) {
         Window().resize(c.Window.expandedTo({0, 560}) + Window().size() - client.size());
         QCoreApplication::processEvents();
