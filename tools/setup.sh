@@ -5,7 +5,7 @@ build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-
 # The fonts that the windows' fonts are mapped to: a bare system has none.
 game_packages=(fonts-liberation fonts-dejavu-core fonts-urw-base35)
 test_packages=(libgtest-dev xvfb openbox xdotool dbus at-spi2-core python3-pyatspi xauth)
-check_packages=(git clang clang-format clang-tidy libclang-rt-14-dev)
+check_packages=(git clang clang-format clang-tidy libclang-rt-14-dev lintian desktop-file-utils appstream mmdebstrap)
 
 # Installs those of the named packages that are missing.
 need() {

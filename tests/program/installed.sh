@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# The installed game: asked on a terminal, and played by an ordinary user who cannot write its folder, which stays as
+# it was.
+#
+#     tests/program/installed.sh BUILD-FOLDER
+set -euo pipefail
+fail() { echo "$*" >&2 && exit 1; }
+
+stage=$(mktemp -d)
+trap 'chmod -R u+w "$stage" && rm -rf "$stage"' EXIT
+cmake --install "$1" --prefix "$stage/usr" >/dev/null
+mkdir -m 700 "$stage/home"
+cp -r --parents tests/program tools/speed "$stage"
+chmod -R a+rX,a-w "$stage/usr"
+chmod a+rx "$stage"
+player=(env -i PATH="$PATH" HOME="$stage/home" XDG_RUNTIME_DIR="$stage/home")
+if [ "$(id -u)" -eq 0 ]; then
+    chown nobody "$stage/home"
+    player=(runuser -u nobody -- "${player[@]}")
+fi
+zarpel=$stage/usr/games/zarpel
+installed() { find "$stage/usr" -printf '%p %M %T@ %l\n' -type f -exec sha256sum {} + | sort; }
+
+before=$(installed)
+[ "$("${player[@]}" "$zarpel" --version)" = "Zarpel 1.0" ] || fail "it does not tell its version"
+"${player[@]}" "$zarpel" --help | grep -q "Uso: zarpel" || fail "it does not tell how it is called"
+for words in --nada "una.zrp otra.zrp"; do
+    # shellcheck disable=SC2086
+    error=$("${player[@]}" "$zarpel" $words 2>&1 >/dev/null) && fail "it takes $words"
+    [ $? -eq 2 ] && [[ $error == "zarpel: "* ]] || fail "of $words it says: $error"
+done
+"${player[@]}" /usr/bin/python3 -B "$stage/tests/program/installed_test.py" "$zarpel"
+[ "$(installed)" = "$before" ] || fail "the installed folder has changed"
