@@ -393,11 +393,12 @@ class Referee {
 
     Moment Expect(const std::string& what = {}) {
         if (!what.empty()) told_.push_back(what);
-        const Moment expected{std::exchange(told_, {}), now_}, moment = Next();
+        const Moment expected{std::exchange(told_, {}), now_};
+        Moment moment = Next();
         log_.pop_front();
         if (moment.Told == expected.Told && moment.Looks == now_) return moment;
         std::ostringstream report;
-        for (const Moment* const at : {&expected, &moment}) {
+        for (const Moment* const at : {&expected, &std::as_const(moment)}) {
             report << (at == &expected ? "there must be\n" : "but there is\n");
             for (const std::string& text : at->Told) report << "  " << text << "\n";
             report << at->Looks;
