@@ -81,6 +81,18 @@ TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
     }
 }
 
+// Wherever on a full table the only card lies that makes 15.
+TEST(Paso, NobodyPassesWhoHasACapture) {
+    for (std::size_t place = 0; place < 8; ++place) {
+        Table table;
+        std::vector<int> mesa = {9, 10, 19, 20, 29, 30, 39, 40};
+        mesa[place] = Card(8, 'o');
+        table.Lay(mesa, {Card(7, 'o')}, {Card(1, 'c')});
+        table.GiveMoveTo(Jugador::Humano);
+        EXPECT_TRUE(table.Desktop.Boxes.empty()) << place;
+    }
+}
+
 // Points, and zarpels before one more, as a file changed by hand can hold them.
 TEST(Puntos, StopAtWhatARecordHolds) {
     const struct {
