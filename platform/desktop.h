@@ -64,8 +64,9 @@ class Desktop {
 
     // --- Boxes and choosers (all block) ---
 
-    // Shows a box and gives the button pressed. Closing it otherwise counts as Ok, or as No. Keys and clicks
-    // that waited for the end of a pause are dropped: they were meant for a table without the box's news.
+    // Shows a box and gives the button pressed. Closing it otherwise counts as Ok, or as No where No is
+    // preselected; where Yes is, only a button closes it. Keys and clicks that waited for the end of a pause
+    // are dropped: they were meant for a table without the box's news.
     virtual Answer Show(const Message& message) = 0;
     // Asks for a line of text; gives the text typed, or an empty one when cancelled.
     virtual std::string InputBox(const std::string& prompt, const std::string& title,
