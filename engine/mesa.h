@@ -8,6 +8,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -20,10 +21,10 @@
 
 namespace zarpel {
 
-constexpr int kLugaresMesa = 8;
-constexpr int kLugaresMano = 3;
+constexpr std::size_t kLugaresMesa = 8;
+constexpr std::size_t kLugaresMano = 3;
 constexpr int kPosiciones = kLugaresMesa + 2 * kLugaresMano;  // position codes are 1 to this
-constexpr int kCartasEnMesa = 4;                              // laid by the first distribution of a deal
+constexpr std::size_t kCartasEnMesa = 4;                      // laid by the first distribution of a deal
 constexpr int kSumaDeLevante = 15;
 constexpr int kPausaMs = 1500;  // long enough to see what happens
 
@@ -35,8 +36,8 @@ using Matriz = PorJugador<Cuenta>;
 
 // A capture: a place of the hand, and places of the table whose cards make 15 with the hand's card.
 struct Captura {
-    int Mano;
-    std::vector<int> Mesa;
+    std::size_t Mano;
+    std::vector<std::size_t> Mesa;
 };
 
 class Mesa {

@@ -9,7 +9,7 @@ namespace zarpel {
 namespace {
 
 // A distribution gives its cards in the order of the position codes.
-constexpr int kPrimerCodigoCpu = kCartasEnMesa + 1;
+constexpr int kPrimerCodigoCpu = 5;
 constexpr int kUltimoCodigoHumano = 10;
 
 bool EnElMazo(int carta) { return Naipes->Mazo_Duenio(carta) == duenios::kNinguno; }
@@ -74,10 +74,11 @@ std::span<const Slot> Mesa::SlotsMano(Jugador quien) const {
 }
 
 const Slot& Mesa::SlotDePosicion(int codigo) const {
-    if (codigo <= 4) return SlotsMesa()[codigo - 1];
-    if (codigo <= 7) return SlotsMano(Jugador::Cpu)[codigo - 5];
-    if (codigo <= 10) return SlotsMano(Jugador::Humano)[codigo - 8];
-    return SlotsMesa()[codigo - 7];
+    const auto i = static_cast<std::size_t>(codigo);
+    if (i <= 4) return SlotsMesa()[i - 1];
+    if (i <= 7) return SlotsMano(Jugador::Cpu)[i - 5];
+    if (i <= 10) return SlotsMano(Jugador::Humano)[i - 8];
+    return SlotsMesa()[i - 7];
 }
 
 void Mesa::ResetGame() {

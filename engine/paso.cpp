@@ -11,9 +11,9 @@ namespace {
 constexpr unsigned kConjuntos = 1U << kLugaresMesa;  // sets of table places: bit i stands for place i
 
 // The places of a set, or none when one of them is empty.
-std::vector<int> LugaresDe(unsigned conjunto, std::span<const Slot> mesa) {
-    std::vector<int> lugares;
-    for (int i = 0; i < kLugaresMesa; ++i) {
+std::vector<std::size_t> LugaresDe(unsigned conjunto, std::span<const Slot> mesa) {
+    std::vector<std::size_t> lugares;
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) {
         if ((conjunto >> i & 1U) == 0) continue;
         if (!mesa[i].Ocupado()) return {};
         lugares.push_back(i);
@@ -30,11 +30,11 @@ bool Mesa::TieneCartas(Jugador quien) const { return std::ranges::any_of(SlotsMa
 std::vector<Captura> Mesa::Capturas(Jugador quien) const {
     std::vector<Captura> capturas;
     for (unsigned conjunto = 1; conjunto < kConjuntos; ++conjunto) {
-        const std::vector<int> lugares = LugaresDe(conjunto, SlotsMesa());
+        const std::vector<std::size_t> lugares = LugaresDe(conjunto, SlotsMesa());
         if (lugares.empty()) continue;
         int resto = kSumaDeLevante;
-        for (const int i : lugares) resto -= SlotsMesa()[i].Numero();
-        for (int mano = 0; mano < kLugaresMano; ++mano) {
+        for (const std::size_t i : lugares) resto -= SlotsMesa()[i].Numero();
+        for (std::size_t mano = 0; mano < kLugaresMano; ++mano) {
             const Slot& carta = SlotsMano(quien)[mano];
             if (carta.Ocupado() && carta.Numero() == resto) capturas.push_back({mano, lugares});
         }

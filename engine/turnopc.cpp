@@ -3,7 +3,6 @@
 // some captures.
 #include <algorithm>
 #include <optional>
-#include <ranges>
 
 #include "engine/mesa.h"
 
@@ -11,7 +10,7 @@ namespace zarpel {
 namespace {
 
 // One walk: the hand card, the anchor, and each later table card that still fits. True when they make 15.
-bool PruebaDesde(Mesa& mesa, int mano, int ancla) {
+bool PruebaDesde(Mesa& mesa, std::size_t mano, std::size_t ancla) {
     mesa.EmprolijaDesktop();
     mesa.Verifica(mesa.SlotsMano(Jugador::Cpu)[mano]);
     if (!mesa.SlotsMesa()[ancla].Ocupado()) return false;
@@ -24,11 +23,11 @@ bool PruebaDesde(Mesa& mesa, int mano, int ancla) {
 }
 
 // The hand place of the first capture found, which is then selected.
-std::optional<int> BuscaLevante(Mesa& mesa) {
-    for (int mano = 0; mano < kLugaresMano; ++mano) {
+std::optional<std::size_t> BuscaLevante(Mesa& mesa) {
+    for (std::size_t mano = 0; mano < kLugaresMano; ++mano) {
         mesa.EmprolijaDesktop();
         if (!mesa.SlotsMano(Jugador::Cpu)[mano].Ocupado()) continue;
-        for (int ancla = 0; ancla < kLugaresMesa; ++ancla) {
+        for (std::size_t ancla = 0; ancla < kLugaresMesa; ++ancla) {
             if (PruebaDesde(mesa, mano, ancla)) return mano;
         }
     }
@@ -37,7 +36,8 @@ std::optional<int> BuscaLevante(Mesa& mesa) {
 
 // The last place of the hand that holds a card; the computer has one when it moves.
 const Slot& CartaQueDeja(const Mesa& mesa) {
-    return *std::ranges::find_if(mesa.SlotsMano(Jugador::Cpu) | std::views::reverse, &Slot::Ocupado);
+    const auto mano = mesa.SlotsMano(Jugador::Cpu);
+    return *std::ranges::find_if(mano.rbegin(), mano.rend(), &Slot::Ocupado);
 }
 
 }  // namespace

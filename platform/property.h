@@ -44,6 +44,7 @@ class Property {
     const T& get() const { return value_; }
     operator const T&() const { return value_; }
     bool operator==(const T& other) const { return value_ == other; }
+    bool operator==(const Property& other) const { return value_ == other.value_; }
 
   private:
     const Observed& owner_;

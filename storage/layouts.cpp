@@ -24,7 +24,7 @@ Fields PreferenceFields(const PreferencePlaces& places) {
 Fields MatchFields(Mesa& mesa) {
     Fields fields = {PropertyField(mesa.puntajeP1Lbl.Caption), PropertyField(mesa.puntajeP2Lbl.Caption),
                      PropertyField(mesa.SumandoLbl.Caption)};
-    for (int k = 0; k < kLugaresMesa; ++k) {
+    for (std::size_t k = 0; k < kLugaresMesa; ++k) {
         if (k < kLugaresMano) {
             Image& cpu = mesa.cartap1img[k];
             Image& humano = mesa.cartap2img[k];

@@ -21,10 +21,10 @@ void Playing::Form_Load() {
 }
 
 void Playing::ConnectEvents() {
-    for (int i = 0; i < kLugaresMesa; ++i) {
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) {
         mesaimg.at(i).Click = [this, i] { mesaimg_Click(i); };
     }
-    for (int i = 0; i < kLugaresMano; ++i) {
+    for (std::size_t i = 0; i < kLugaresMano; ++i) {
         cartap2img.at(i).Click = [this, i] { cartap2img_Click(i); };
     }
     LevantarBtn.Click = [this] { LevantarBtn_Click(); };

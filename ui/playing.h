@@ -39,8 +39,8 @@ class Playing : public Form, public Mesa {
     void MuestraResultados(const Matriz& matriz) override;
 
     // --- Input (playing_input.cpp) ---
-    void mesaimg_Click(int Index);
-    void cartap2img_Click(int Index);
+    void mesaimg_Click(std::size_t Index);
+    void cartap2img_Click(std::size_t Index);
     void LevantarBtn_Click();
     void Frame1_DragDrop(Image& Source);
     void Form_KeyDown(int keycode, int shift) override;

@@ -35,8 +35,8 @@ const std::array kTableTips = {"carta a tomar", "carta a tomar", "carta en mesa"
 const std::array kCpuTips = {"Carta Cpu", "Carta Cpu", "Carta Cpu"};
 const std::array kHumanTips = {"Vuestra carta", "Carta 1", "Carta 1"};
 
-Place InRow(const RowDesign& row, const Slot& slot, int i) {
-    return {row.Left + row.Step * i, slot.Alturas().Reposo, row.Width, row.Height};
+Place InRow(const RowDesign& row, const Slot& slot, std::size_t i) {
+    return {row.Left + row.Step * static_cast<int>(i), slot.Alturas().Reposo, row.Width, row.Height};
 }
 
 void DrawCard(Container& container, Image& image, const Place& at, const char* tip) {
@@ -57,7 +57,7 @@ std::string NameOfCard(int carta) {
 }
 
 // Places are counted from 1, as a player counts.
-void Speak(const Slot& slot, const char* row, int i) {
+void Speak(const Slot& slot, const char* row, std::size_t i) {
     const std::string place = row + std::string(" ") + std::to_string(i + 1);
     slot.Imagen.Spoken = [slot, place] {
         return Speech{NameOfCard(slot.Carta()), place + (slot.Elegido() ? ", elegida" : "")};
@@ -129,12 +129,12 @@ void Playing::Design() {
 }
 
 void Playing::DesignSlots() {
-    for (int i = 0; i < kLugaresMesa; ++i) {
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) {
         const Slot& slot = SlotsMesa()[i];
         DrawCard(Frame1, slot.Imagen, InRow(kTableRow, slot, i), kTableTips.at(i));
         Speak(slot, "mesa", i);
     }
-    for (int i = 0; i < kLugaresMano; ++i) {
+    for (std::size_t i = 0; i < kLugaresMano; ++i) {
         const Slot& cpu = SlotsMano(Jugador::Cpu)[i];
         DrawCard(*this, cpu.Imagen, InRow(kCpuRow, cpu, i), kCpuTips.at(i));
         Speak(cpu, "cpu", i);
@@ -152,8 +152,9 @@ void Playing::DesignSlots() {
         humano.Imagen.Draggable = true;
         Speak(humano, "mano", i);
     }
-    for (int i = 0; i < kLugaresMesa; ++i) DrawFlag(Frame1, SlotsMesa()[i], kTableFlags.at(i), kTableFlagTop);
-    for (int i = 0; i < kLugaresMano; ++i) {
+    for (std::size_t i = 0; i < kLugaresMesa; ++i)
+        DrawFlag(Frame1, SlotsMesa()[i], kTableFlags.at(i), kTableFlagTop);
+    for (std::size_t i = 0; i < kLugaresMano; ++i) {
         DrawFlag(*this, SlotsMano(Jugador::Cpu)[i], kCpuFlags.at(i), kCpuFlagTop);
         DrawFlag(*this, SlotsMano(Jugador::Humano)[i], kHumanFlags.at(i), kHumanFlagTop);
     }

@@ -19,7 +19,7 @@ void Playing::SetPantalla() {
     for (Image& imagen : cartap1img) imagen.Visible = true;
     for (Image& imagen : cartap2img) imagen.Visible = true;
     if (!Naipes->Primermano()) return;
-    for (int i = 0; i < kLugaresMesa; ++i) mesaimg[i].Visible = i < kCartasEnMesa;
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) mesaimg[i].Visible = i < kCartasEnMesa;
 }
 
 void Playing::EmprolijaDesktop() {

@@ -14,9 +14,9 @@ constexpr int kBordeBarra = 8055;  // from here down the pointer calls the statu
 
 }  // namespace
 
-void Playing::mesaimg_Click(int Index) { Toca(SlotsMesa()[Index]); }
+void Playing::mesaimg_Click(std::size_t Index) { Toca(SlotsMesa()[Index]); }
 
-void Playing::cartap2img_Click(int Index) { Toca(SlotsMano(Jugador::Humano)[Index]); }
+void Playing::cartap2img_Click(std::size_t Index) { Toca(SlotsMano(Jugador::Humano)[Index]); }
 
 void Playing::Toca(const Slot& slot) {
     if (slot.Ocupado()) Verifica(slot);

@@ -19,7 +19,8 @@ class RandomPlayer {
         const int what = Below(10);
         if (what == 0) return window_.Form_KeyDown(Below(256), Below(8));
         if (what == 1) return window_.Form_MouseMove(Below(12000), Below(9000));
-        if (what == 2) return window_.Frame1.DragDrop(window_.cartap2img.at(Below(kLugaresMano)));
+        if (what == 2)
+            return window_.Frame1.DragDrop(window_.cartap2img.at(static_cast<std::size_t>(Below(3))));
         if (what == 3) return window_.LevantarBtn.Click();  // as "L" does
         if (what == 4) return any.Imagen.Click ? any.Imagen.Click() : void();
         window_.Form_KeyDown("123ASDFGHJKL"[Below(12)], 0);

@@ -3,8 +3,9 @@
 namespace zarpel {
 void LayCards(Playing& window, const std::vector<int>& mesa, const std::vector<int>& humano,
               const std::vector<int>& cpu) {
-    const auto fill = [](const Slot& slot, const std::vector<int>& row, int i, const std::string& duenio) {
-        const int carta = i < std::ssize(row) ? row.at(static_cast<std::size_t>(i)) : 0;
+    const auto fill = [](const Slot& slot, const std::vector<int>& row, std::size_t i,
+                         const std::string& duenio) {
+        const int carta = i < row.size() ? row[i] : 0;
         slot.Imagen.Visible = carta != 0;
         if (carta == 0) return;
         slot.Imagen.Tag = std::to_string(carta);
@@ -12,8 +13,8 @@ void LayCards(Playing& window, const std::vector<int>& mesa, const std::vector<i
         Naipes->aMazo_Duenio(carta, duenio);
     };
     for (int i = 1; i <= classnaipe::kCartas; ++i) Naipes->aMazo_Duenio(i, duenios::kNinguno);
-    for (int i = 0; i < kLugaresMesa; ++i) fill(window.SlotsMesa()[i], mesa, i, duenios::kLaMesa);
-    for (int i = 0; i < kLugaresMano; ++i) {
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) fill(window.SlotsMesa()[i], mesa, i, duenios::kLaMesa);
+    for (std::size_t i = 0; i < kLugaresMano; ++i) {
         fill(window.SlotsMano(Jugador::Humano)[i], humano, i, kSignos.Humano.Duenio);
         fill(window.SlotsMano(Jugador::Cpu)[i], cpu, i, kSignos.Cpu.Duenio);
         window.fondop1img[i].Visible = window.cartap1img[i].Visible;
@@ -50,8 +51,8 @@ std::vector<int> Table::CardsIn(std::span<const Slot> row) {
 std::string Table::Selected() {
     const auto hand = Window.SlotsMano(Jugador::Humano), mesa = Window.SlotsMesa();
     std::string keys;
-    for (int i = 0; i < kLugaresMano; ++i) keys.append(hand[i].Elegido(), "123"[i]);
-    for (int i = 0; i < kLugaresMesa; ++i) keys.append(mesa[i].Elegido(), "ASDFGHJK"[i]);
+    for (std::size_t i = 0; i < kLugaresMano; ++i) keys.append(hand[i].Elegido(), "123"[i]);
+    for (std::size_t i = 0; i < kLugaresMesa; ++i) keys.append(mesa[i].Elegido(), "ASDFGHJK"[i]);
     return keys;
 }
 
