@@ -22,8 +22,8 @@ struct HelpTopic {
 
 class HelpFile {
   public:
-    // Reads the help file at the path `file`. Nothing when there is no such file, or it is damaged, or
-    // larger than any help of ours would be, or its first page is not in it.
+    // Reads the help file at the path `file`. Nothing when there is no such file, or its seal does not fit:
+    // what bears the seal is what the build made, and is read without distrust.
     static std::optional<HelpFile> Open(const QString& file);
 
     // The address of an object of a help file: "chm:" and its path, which begins with "/".
@@ -32,7 +32,6 @@ class HelpFile {
     const QString& Title() const { return title_; }
     const QUrl& FirstPage() const { return firstPage_; }
     const std::vector<HelpTopic>& Contents() const { return contents_; }
-    QStringList Paths() const { return objects_.keys(); }
 
     bool Has(const QUrl& address) const;
     // The bytes of the object at `address` (its anchor does not count). Empty when the file has no such
@@ -47,18 +46,8 @@ class HelpFile {
     QUrl firstPage_;
 };
 
-// What the table "/#SYSTEM" of a help file says about it; texts are empty where it says nothing.
-struct HelpSystem {
-    QString Title;
-    QString FirstPage;
-    QString ContentsFile;
-};
-
-// Reads that table. Takes any bytes; stops at the first entry that is cut off.
-HelpSystem ReadSystem(const QByteArray& source);
-
 // Reads a contents tree in the form the help compiler takes and stores: nested lists of "text/sitemap"
-// objects. Takes any text; what it does not understand it skips.
+// objects. What it does not understand it skips.
 std::vector<HelpTopic> ReadContents(const QByteArray& source);
 
 }  // namespace zarpel
