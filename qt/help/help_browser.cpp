@@ -14,7 +14,6 @@ constexpr int kLargestZoom = 300;
 constexpr int kZoomStep = 10;
 constexpr qreal kReadingSize = 11;      // points, the size of letters for which the pages were laid out
 constexpr qreal kPictureDetail = 4.55;  // pictures are so many times larger than they stand in a page
-constexpr int kLargestPicture = 4096;   // pixels across
 
 }  // namespace
 
@@ -22,6 +21,7 @@ HelpBrowser::HelpBrowser(QWidget* parent)
     : QTextBrowser(parent), enlargement_(std::max(1.0, fontInfo().pointSizeF() / kReadingSize)) {
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
+    setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     QPalette paper = palette();
     paper.setColor(QPalette::Base, Qt::white);
     paper.setColor(QPalette::Text, QColor(0x20, 0x20, 0x20));
@@ -63,6 +63,13 @@ void HelpBrowser::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
+bool HelpBrowser::focusNextPrevChild(bool next) {
+    const bool moved = QTextBrowser::focusNextPrevChild(next);
+    const QTextCursor at = textCursor();
+    if (hasFocus() && at.hasSelection() && at.charFormat().isAnchor()) emit LinkReached(at.selectedText());
+    return moved;
+}
+
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     if (!file_) return {};
     const QUrl address = page_.resolved(name);
@@ -78,7 +85,7 @@ QImage HelpBrowser::Picture(const QUrl& address) const {
     if (image.isNull()) return {};
     const qreal ratio = devicePixelRatioF();
     const int wanted = qRound(image.width() / kPictureDetail * enlargement_ * zoom_ / 100 * ratio);
-    QImage scaled = image.scaledToWidth(std::min(wanted, kLargestPicture), Qt::SmoothTransformation);
+    QImage scaled = image.scaledToWidth(wanted, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);
     return scaled;
 }

@@ -31,11 +31,17 @@ class HelpBrowser : public QTextBrowser {
     // Zooms by `steps` notches of a mouse wheel.
     void ZoomBy(int steps);
 
+  signals:
+    // The keys have come to a link with this text.
+    void LinkReached(const QString& text);
+
+  public:
     QVariant loadResource(int type, const QUrl& name) override;
 
   protected:
     void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
     void wheelEvent(QWheelEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     QImage Picture(const QUrl& address) const;

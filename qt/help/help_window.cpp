@@ -60,6 +60,8 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent)
     connect(contents_, &QTreeWidget::currentItemChanged, this, &HelpWindow::FollowContents);
     connect(contents_, &QTreeWidget::itemActivated, this, &HelpWindow::FollowContents);
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkPage);
+    connect(page_, &HelpBrowser::LinkReached, this,
+            [this](const QString& text) { emit News(text + tr(", enlace")); });
     connect(MakeAction({}, {Qt::Key_Escape}, {}), &QAction::triggered, this, &HelpWindow::Leave);
 
     resize((kUsualSize * page_->Enlargement()).boundedTo(screen()->availableSize() * 95 / 100));

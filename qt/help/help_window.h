@@ -25,6 +25,10 @@ class HelpWindow : public QWidget {
     // or damaged the window says so, and nothing else happens.
     void Present();
 
+  signals:
+    // What a screen reader is to say, since it does not notice: the keys have come to a link.
+    void News(const QString& text);
+
   private:
     QToolBar* MakeToolBar();
     void MakePageMenu(const QList<QAction*>& navigation);
