@@ -63,11 +63,15 @@ void Mesa::Levanta(const std::string& duenio) {
         desktop_.Show({.Text = "Debes seleccionar una de tus cartas"});
         return;
     }
+    std::vector<int> deLaMesa;
+    int con = 0;
     for (const Slot& slot : Slots()) {
         if (!slot.Elegido()) continue;
         slot.Retirar(DeDuenio(duenio));
         AsignoANaipe(slot.Carta(), duenio);
+        slot.De ? con = slot.Carta() : deLaMesa.emplace_back(slot.Carta());
     }
+    DiceToma(DeDuenio(duenio), deLaMesa, con);
     SumaZarpel(duenio);
     Reparto->aUltimoqLevanta(duenio);
     LevantarBtn.Enabled = false;
@@ -78,6 +82,7 @@ void Mesa::Levanta(const std::string& duenio) {
 
 void Mesa::SumaZarpel(const std::string& duenio) {
     if (std::ranges::any_of(SlotsMesa(), &Slot::Ocupado)) return;
+    DiceZarpel(DeDuenio(duenio));
     desktop_.Show({.Text = "¡¡¡ZARPEL!!!", .Icon = BoxIcon::Exclamation});
     if (DeDuenio(duenio) == Jugador::Cpu) {
         Reparto->aZarpelP1(Mas(Reparto->ZarpelP1(), 1));

@@ -145,6 +145,20 @@ class Mesa {
     // Shows a deal's count and returns when the player has closed it.
     virtual void MuestraResultados(const Matriz& matriz) = 0;
 
+    // --- What happens, for a player who cannot see it; cards by their index ---
+
+    virtual void DiceReparto() = 0;
+    virtual void DiceToma(Jugador quien, const std::vector<int>& deLaMesa, int con) = 0;
+    virtual void DiceZarpel(Jugador quien) = 0;
+    virtual void DiceDeja(Jugador quien, const Slot& lugar) = 0;
+    virtual void DicePasa(Jugador quien) = 0;
+    // The cards that the last capturer gets at the end of a deal.
+    virtual void DiceResto(Jugador quien, const std::vector<int>& cartas) = 0;
+    // The count of a deal, and the points that the match then stands at.
+    virtual void DiceCuenta(const Matriz& matriz, const PorJugador<std::int16_t>& puntajes) = 0;
+    // The human is to move.
+    virtual void DiceTurno() = 0;
+
   protected:
     // Gives the card's record the path of the game's own picture when the one it has cannot be loaded, as in
     // a match saved before the game moved.

@@ -132,7 +132,7 @@ void Mesa::TurnoHumano() {
     cartellbl.Caption = "Juega " + Naipes->Nombrejugador();
     Reparto->aTurno(kSignos.Cpu.Turno);
     if (!TieneCartas(Jugador::Humano)) return Pasa(Jugador::Humano);
-    if (!Bloqueado(Jugador::Humano)) return;
+    if (!Bloqueado(Jugador::Humano)) return DiceTurno();
     desktop_.Show({.Text = "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno",
                    .Icon = BoxIcon::Information});
     Pasa(Jugador::Humano);
@@ -156,6 +156,7 @@ void Mesa::SeReparte() {
     // says.
     for (; codigo <= kUltimoCodigoHumano; ++codigo) SlotDePosicion(codigo).Imagen.Visible = false;
     if (MazoVacio()) Naipes->aRepartidas(Naipes->CantCartas());
+    DiceReparto();
 }
 
 void Mesa::DaCarta(int codigo) {
@@ -190,6 +191,7 @@ void Mesa::Juega(Image& Source) {
     Source.Visible = false;
     libre->Imagen.Visible = true;
     AsignoANaipe(libre->Carta(), duenios::kLaMesa);
+    DiceDeja(Otro(DeTurno(Reparto->Turno())), *libre);
     haPasado_.reset();
     DecideTurno();
 }

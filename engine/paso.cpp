@@ -47,6 +47,7 @@ bool Mesa::Bloqueado(Jugador quien) const {
 }
 
 void Mesa::Pasa(Jugador quien) {
+    DicePasa(quien);
     if (haPasado_ != Otro(quien)) {
         haPasado_ = quien;
         return DecideTurno();

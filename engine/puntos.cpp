@@ -39,19 +39,26 @@ Matriz Cuentas() {
 void Mesa::AsignaRestoALUltimo(const std::string& duenio) {
     cartellbl.Caption = "Esta es la ultima mano";
     desktop_.Pause(kPausaMs);
+    std::vector<int> cartas;
     for (const Slot& slot : SlotsMesa()) {
         if (!slot.Ocupado()) continue;
         slot.Retirar(DeDuenio(duenio));
         AsignoANaipe(slot.Carta(), duenio);
+        cartas.push_back(slot.Carta());
     }
+    DiceResto(DeDuenio(duenio), cartas);
 }
 
 void Mesa::CuentaPuntos() {
     AsignaRestoALUltimo(Reparto->UltimoqLevanta());
     const Matriz matriz = Cuentas();
+    const PorJugador<std::int16_t> puntajes = {
+        Mas(Naipes->Puntajecpu(), Puntos(matriz.Cpu, matriz.Humano)),
+        Mas(Naipes->Puntajehumano(), Puntos(matriz.Humano, matriz.Cpu))};
+    DiceCuenta(matriz, puntajes);
     MuestraResultados(matriz);
-    Naipes->aPuntajecpu(Mas(Naipes->Puntajecpu(), Puntos(matriz.Cpu, matriz.Humano)));
-    Naipes->aPuntajehumano(Mas(Naipes->Puntajehumano(), Puntos(matriz.Humano, matriz.Cpu)));
+    Naipes->aPuntajecpu(puntajes.Cpu);
+    Naipes->aPuntajehumano(puntajes.Humano);
     puntajeP1Lbl.Caption = std::to_string(Naipes->Puntajecpu());
     puntajeP2Lbl.Caption = std::to_string(Naipes->Puntajehumano());
     if (Naipes->Puntajehumano() >= kPuntosDePartida || Naipes->Puntajecpu() >= kPuntosDePartida) {

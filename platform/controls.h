@@ -7,6 +7,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -89,8 +90,8 @@ enum class Side { None, Top, Bottom };
 
 // What a screen reader says of a picture.
 struct Speech {
-    std::string Name;         // what it shows
-    std::string Description;  // where it is and in which state
+    std::string Name;              // what it shows, and where it is
+    std::optional<bool> Selected;  // nothing: it cannot be selected
 };
 
 // A picture, stretched to the size of its control.
@@ -135,8 +136,7 @@ class Label : public Control {
     Property<bool> WordWrap{*this};
     Property<bool> IsPath{*this};  // one that is too long is shortened in the middle, not made smaller
     Property<Alignment> Align{*this};
-    std::string SpokenAs;    // what a screen reader calls it; empty: its caption
-    bool Announced = false;  // a screen reader is told when the caption changes, once the event is over
+    std::string SpokenAs;  // what a screen reader calls it; empty: its caption
     std::function<void()> Click;
 };
 

@@ -62,6 +62,10 @@ class Desktop {
     // Width and height of the screen in twips, for centring.
     virtual Place Screen() const = 0;
 
+    // Tells what has happened to a player who cannot see it, once the event is over, and those that waited
+    // for it, or when a modal form is shown meanwhile. Several texts are told as one.
+    virtual void Announce(const std::string& text) = 0;
+
     // --- Boxes and choosers (all block) ---
 
     // Shows a box and gives the button pressed. Closing it otherwise counts as Ok, or as No where No is

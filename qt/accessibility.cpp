@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include "qt/announcer.h"
 #include "qt/form_window.h"
 #include "qt/motion.h"
 #include "qt/views.h"
@@ -10,12 +11,18 @@
 namespace zarpel {
 namespace {
 
-// A picture, or a label that can be clicked.
+// What can be clicked: a picture, or a label.
 class AccessiblePressable : public QAccessibleWidget {
   public:
     AccessiblePressable(QWidget* widget, View& view, QAccessible::Role role)
         : QAccessibleWidget(widget, role), view_(view) {}
 
+    // The toolkit takes a tooltip for a description: a card's says less than its name, and a label's can be
+    // markup.
+    QString text(QAccessible::Text which) const override {
+        if (which == QAccessible::Description) return widget()->accessibleDescription();
+        return QAccessibleWidget::text(which);
+    }
     QStringList actionNames() const override {
         return view_.Pressable() ? QStringList(pressAction()) : QStringList();
     }
@@ -25,6 +32,41 @@ class AccessiblePressable : public QAccessibleWidget {
 
   private:
     View& view_;
+};
+
+class AccessibleImage : public AccessiblePressable {
+  public:
+    explicit AccessibleImage(ImageView& image)
+        : AccessiblePressable(&image, image, QAccessible::Graphic), image_(image) {}
+
+    QAccessible::Role role() const override {
+        return image_.Selected() ? QAccessible::CheckBox : QAccessible::Graphic;
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = image_.Selected().has_value();
+        state.checked = image_.Selected().value_or(false);
+        return state;
+    }
+
+  private:
+    ImageView& image_;
+};
+
+class AccessibleLabel : public AccessiblePressable {
+  public:
+    explicit AccessibleLabel(LabelView& label)
+        : AccessiblePressable(&label, label,
+                              label.Pressable() ? QAccessible::Button : QAccessible::StaticText),
+          label_(label) {}
+
+    QString text(QAccessible::Text which) const override {
+        const QString text = AccessiblePressable::text(which);
+        return which == QAccessible::Name && text.isEmpty() ? label_.text() : text;
+    }
+
+  private:
+    LabelView& label_;
 };
 
 // A widget whose hidden children are not there at all. By default they would be found, only marked as hidden.
@@ -53,16 +95,19 @@ class AccessibleArea : public QAccessibleWidget {
 };
 
 QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
-    if (auto* const image = dynamic_cast<ImageView*>(object)) {
-        return new AccessiblePressable(image, *image, QAccessible::Graphic);
-    }
-    if (auto* const label = dynamic_cast<LabelView*>(object); label && label->Pressable()) {
-        return new AccessiblePressable(label, *label, QAccessible::Button);
+    if (auto* const image = dynamic_cast<ImageView*>(object)) return new AccessibleImage(*image);
+    if (auto* const label = dynamic_cast<LabelView*>(object)) return new AccessibleLabel(*label);
+    if (auto* const announcer = dynamic_cast<Announcer*>(object)) {
+        return new QAccessibleWidget(announcer, QAccessible::Notification);
     }
     if (auto* const area = dynamic_cast<AreaView*>(object)) return new AccessibleArea(area);
     if (auto* const client = dynamic_cast<ClientArea*>(object)) return new AccessibleArea(client);
     if (auto* const client = dynamic_cast<ClientArea*>(object->parent()); client && client->Table() == object)
         return new AccessibleArea(client->Table());
+    if (auto* const window = dynamic_cast<FormWindow*>(object);
+        window && window->windowType() == Qt::Dialog) {
+        return new QAccessibleWidget(window, QAccessible::Dialog);
+    }
     return nullptr;
 }
 

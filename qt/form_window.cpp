@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <map>
@@ -148,6 +149,7 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
         client_->setMinimumSize((QSizeF(FormSize()) * kSmallest).toSize());
     layout->addWidget(client_, 1);
     context_.Moves = new Motion(client_->Table(), context_.Scale, context_.Pictures);
+    announcer_ = new Announcer(this);
     moved_.setSingleShot(true);
     moved_.setInterval(kRestMs);
     if (form.Border == FormBorder::Sizable) {
@@ -165,6 +167,8 @@ void FormWindow::AddMenus() {
     if (form_.Menus.empty()) return;
     auto* const bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
+    auto* const f10 = new QShortcut(Qt::Key_F10, this);
+    connect(f10, &QShortcut::activated, bar, [bar] { bar->setActiveAction(bar->actions().constFirst()); });
     for (const Menu* const menu : form_.Menus) {
         QMenu* const drop = bar->addMenu(QString::fromStdString(menu->Caption));
         for (const Menu* const entry : menu->Entries) {
@@ -201,6 +205,7 @@ void FormWindow::Sync() {
 void FormWindow::FocusFirst() {
     if (QWidget* const button = ButtonOf(this, &Button::Default)) return button->setFocus();
     focusNextChild();
+    while (dynamic_cast<ImageView*>(focusWidget())) focusNextChild();
 }
 
 void FormWindow::PlaceDialog() {
@@ -226,8 +231,9 @@ Site FormWindow::BoxSite() {
     return form_.BoxArea.Width > 0 ? Site{this, OnScreen(form_.BoxArea)} : Middle();
 }
 
-// Key preview: the window sees a key before the focused control, which gets it afterwards all the same. A key
-// that repeats because it is held down counts once, so that it cannot fill the computer's pause with moves.
+// Key preview: the window sees a key before the focused control, which gets it afterwards all the same; those
+// that a menu takes are the menu's alone. A key that repeats because it is held down counts once, so that it
+// cannot fill the computer's pause with moves.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && !updatesEnabled()) FitNow();
     if (event->type() == QEvent::ThemeChange && Themed) Themed();
@@ -239,7 +245,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         for (View* const view : views_) view->LetGo();
         return true;
     }
-    if (event->type() == QEvent::KeyPress && !QApplication::activePopupWidget()) {
+    const bool menus = QApplication::activePopupWidget() || dynamic_cast<QMenuBar*>(focusWidget());
+    if (event->type() == QEvent::KeyPress && !menus) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         const int code = KeyCodeOf(key);
         const int mask = ShiftMaskOf(key.modifiers());

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "qt/announcer.h"
 #include "qt/placing.h"
 #include "qt/views.h"
 
@@ -53,8 +54,11 @@ class FormWindow : public QWidget {
     // Gives a dialog its place.
     void PlaceDialog();
 
-    // Gives the focus to the default button, or else to the first control that takes it.
+    // Gives the focus to the default button, or else to the first control that takes it and is no picture.
     void FocusFirst();
+
+    // Tells a screen reader what has happened.
+    void Announce(const QString& text) { announcer_->Say(text); }
 
     // Where boxes and choosers stand: over the part of the form that it keeps for them, or over all of it.
     Site BoxSite();
@@ -82,6 +86,7 @@ class FormWindow : public QWidget {
     Form& form_;
     ViewContext context_;  // the views refer to it
     ClientArea* client_;
+    Announcer* announcer_;
     QTimer moved_;              // runs out when the window has come to rest
     std::vector<View*> views_;  // children of the window, which owns them
 };

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,17 +10,33 @@
 
 namespace zarpel {
 
+// A click does not give it the focus: the space bar takes what the pointer has chosen.
+ImageView::ImageView(Image& image, const ViewContext& context, QWidget* parent)
+    : ControlView(image, context, parent) {
+    if (image.Click) setFocusPolicy(Qt::TabFocus);
+}
+
 void ImageView::Sync() {
     ControlView::Sync();
-    if (control_.Spoken && Shown()) {  // a new name is told even of a widget that is hidden
-        const Speech spoken = control_.Spoken();
-        setAccessibleName(QString::fromStdString(spoken.Name));
-        setAccessibleDescription(QString::fromStdString(spoken.Description));
-    }
+    if (control_.Spoken) SayLater();
     for (ImageView* const covered : covered_) covered->Sync();
     if (Shown()) context_.Pictures.Prepare(LookNow());
     context_.Moves->Changed();
     update();
+}
+
+// Not while it is hidden: a new name would be told all the same.
+void ImageView::Say() {
+    if (!Shown()) return;
+    const Speech spoken = control_.Spoken();
+    const QString name = QString::fromStdString(spoken.Name);
+    if (name != accessibleName()) setAccessibleName(name);
+    if (selected_ == spoken.Selected) return;
+    selected_ = spoken.Selected;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 bool ImageView::Shown() const { return control_.Visible && !(control_.Cover && control_.Cover->Visible); }
@@ -46,7 +63,29 @@ bool ImageView::DrawnElsewhere() const {
 }
 
 void ImageView::paintEvent(QPaintEvent*) {
-    if (!DrawnElsewhere()) QPainter(this).drawPixmap(0, 0, context_.Pictures.Scaled(LookNow()));
+    if (DrawnElsewhere()) return;
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, context_.Pictures.Scaled(LookNow()));
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) PaintFocus(painter);
+}
+
+// For eyes that follow the keyboard: a frame, dark outside and light inside, so that it is seen on every card
+// and every table.
+void ImageView::PaintFocus(QPainter& painter) const {
+    const qreal line = context_.Scale.Enlarged(2);
+    const qreal corner = context_.Scale.Pixels(control_.Corner);
+    QRectF frame = rect();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const QColor& color : {QColor(Qt::black), QColor(255, 214, 0)}) {
+        painter.setPen(QPen(color, line));
+        painter.drawRoundedRect(frame.adjusted(line / 2, line / 2, -line / 2, -line / 2), corner, corner);
+        frame.adjust(line, line, -line, -line);
+    }
+}
+
+void ImageView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Space || !Pressable()) return QWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat()) Press();
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {

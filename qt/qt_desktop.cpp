@@ -9,6 +9,7 @@
 #include <QTranslator>
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "qt/accessibility.h"
 #include "qt/colors.h"
@@ -87,6 +88,7 @@ FormWindow& QtDesktop::Open(Form& form, std::function<void()> unloaded) {
     auto window =
         std::make_unique<FormWindow>(form, ViewContext{scale_, pictures_, GateOf(form)}, TopWindow());
     opened_.push_back({&form, std::move(window), std::move(unloaded)});
+    GateOf(form).Idle = [this] { TellNews(); };
     return *opened_.back().Window;
 }
 
@@ -111,7 +113,6 @@ void QtDesktop::ShowMaximised(FormWindow& window) {
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     window.Fill();
-    window.FocusFirst();
     After(kLaterMs, &window, [] {
         SpeakSpanish();
         QApplication::setWindowIcon(ProgramIcon());
@@ -125,6 +126,7 @@ void QtDesktop::Fit(FormWindow& window) {
     scale_.FitTo(window.ClientSize(), window.FormSize());
     pictures_.ForgetSizes();
     for (const Opened& opened : opened_) opened.Window->Sync();
+    if (!window.focusWidget()) window.FocusFirst();
 }
 
 void QtDesktop::UseScale(const QSize& form, const QSize& client) {
@@ -144,6 +146,7 @@ void QtDesktop::ShowModal(Form& form) {
     window.PlaceDialog();
     window.show();
     window.FocusFirst();
+    TellNews();
     loop.exec();
     Forget(form);
 }
@@ -166,6 +169,17 @@ Place QtDesktop::Screen() const {
     const QScreen* const screen = opened_.empty() ? QApplication::primaryScreen() : TopWindow()->screen();
     const QSize size = screen->size();
     return {0, 0, scale_.Twips(size.width()), scale_.Twips(size.height())};
+}
+
+// --- News ---
+
+void QtDesktop::Announce(const std::string& text) {
+    news_ += (news_.isEmpty() ? "" : " ") + QString::fromStdString(text);
+}
+
+void QtDesktop::TellNews() {
+    if (news_.isEmpty() || opened_.empty()) return;
+    TopWindow()->Announce(std::exchange(news_, {}));
 }
 
 // --- Boxes and choosers ---
@@ -214,7 +228,10 @@ void QtDesktop::Pause(int milliseconds) {
 // --- Other programs ---
 
 void QtDesktop::OpenHelp(const std::string& path) {
-    if (!help_) help_ = std::make_unique<HelpWindow>(paths_.ToRead(path));
+    if (!help_) {
+        help_ = std::make_unique<HelpWindow>(paths_.ToRead(path));
+        QObject::connect(help_.get(), &HelpWindow::News, new Announcer(help_.get()), &Announcer::Say);
+    }
     help_->Present();
 }
 

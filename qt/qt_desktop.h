@@ -39,6 +39,7 @@ class QtDesktop : public Desktop {
     void ShowModal(Form& form) override;
     void Unload(Form& form) override;
     Place Screen() const override;
+    void Announce(const std::string& text) override;
     Answer Show(const Message& message) override;
     std::string InputBox(const std::string& prompt, const std::string& title,
                          const std::string& proposed) override;
@@ -85,6 +86,8 @@ class QtDesktop : public Desktop {
     // Where boxes stand now, and choosers, which are larger.
     Site BoxSite() const;
     Site ChooserSite() const;
+    // Says what was announced, in the window above all others.
+    void TellNews();
 
     GamePaths paths_;
     std::string title_;
@@ -94,6 +97,7 @@ class QtDesktop : public Desktop {
     PictureStore pictures_{paths_};
     std::map<const Form*, EventGate> gates_;
     std::vector<Opened> opened_;        // the lowest first
+    QString news_;                      // announced, and not told yet
     std::unique_ptr<HelpWindow> help_;  // made when the player first asks for it
     Draws draws_;
 };

@@ -4,6 +4,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QStyleOptionMenuItem>
 #include <QWidget>
 
 #include "qt/pictures.h"
@@ -52,6 +53,17 @@ int ScaledStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
     if (hint == SH_Widget_Animation_Duration && !moves_) return 0;
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
+void ScaledStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element != CE_MenuBarItem || !item || !widget || !widget->hasFocus()) {
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    QStyleOptionMenuItem marked(*item);
+    if (marked.state & State_Selected) marked.state |= State_Sunken;
+    QProxyStyle::drawControl(element, &marked, painter, widget);
 }
 
 // Zero and less are no sizes: they mean "none" or "as the style thinks fit".

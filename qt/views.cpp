@@ -25,8 +25,6 @@ LabelView::LabelView(Label& label, const ViewContext& context, QWidget* parent)
     setTextFormat(Qt::PlainText);
     if (label.Click) setFocusPolicy(Qt::TabFocus);
     if (label.Click) setCursor(Qt::PointingHandCursor);
-    saying_.setSingleShot(true);
-    connect(&saying_, &QTimer::timeout, this, [this] { Say(); });
 }
 
 // Where the label stands. One that is sized to its text keeps the edge, or the middle, that its alignment
@@ -60,13 +58,7 @@ void LabelView::Sync() {
     // What is hard to read is said by the tooltip.
     const bool small = fitted.Font.pixelSize() < wanted.pixelSize() || drawn_ != caption;
     if (small) setToolTip(Qt::convertFromPlainText((toolTip() + '\n' + caption).trimmed()));
-    // While the computer thinks, the sum changes with every card that it tries, those of its hand included. A
-    // screen reader is told what stands when the event loop goes on.
-    if (control_.Announced) {
-        saying_.start();
-    } else {
-        Say();
-    }
+    SayLater();
     update();
 }
 
@@ -75,8 +67,9 @@ void LabelView::Say() {
     const QString caption = QString::fromStdString(control_.Caption);
     if (caption != text()) setText(caption);
     if (control_.SpokenAs.empty()) return;
-    setAccessibleName(QString::fromStdString(control_.SpokenAs));
-    setAccessibleDescription(caption);
+    const QString name = QString::fromStdString(control_.SpokenAs);
+    setAccessibleName(caption.isEmpty() ? name : name + ": " + caption);
+    setAccessibleDescription(QString::fromStdString(control_.ToolTip));
 }
 
 void LabelView::Write(QPainter& painter, const QPoint& offset) const {
@@ -115,7 +108,9 @@ void LabelView::paintEvent(QPaintEvent*) {
 }
 
 void LabelView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Space || !Pressable()) return QLabel::keyPressEvent(event);
+    const bool presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!presses || !Pressable()) return QLabel::keyPressEvent(event);
     Press();
 }
 
@@ -132,24 +127,19 @@ ButtonView::ButtonView(Button& button, const ViewContext& context, QWidget* pare
     connect(this, &QPushButton::clicked, this, [this] { Raise(control_.Click); });
 }
 
-// A button that is disabled while it has the focus gets it back later; meanwhile no neighbour has it, whom
-// the keys would press. It may be the window's focus that a box has taken for now.
 void ButtonView::Sync() {
-    if (!control_.Enabled && window()->focusWidget() == this) {
-        hadFocus_ = true;
-        parentWidget()->setFocus();
-    }
+    syncing_ = true;
     ControlView::Sync();
-    if (control_.Enabled && hadFocus_) {
-        hadFocus_ = false;
-        if (window()->focusWidget() == parentWidget()) setFocus();
-    }
+    syncing_ = false;
     const QString caption = QString::fromStdString(control_.Caption);
     if (caption != text()) setText(caption);
     setFont(FitText(QString(caption).remove('&'), FontOf({}, context_.Scale),
                     size() - QSize(height() / 4, height() / 4), false)
                 .Font);
 }
+
+// A button that is disabled would hand its focus on, and the keys would press a neighbour. It keeps it.
+bool ButtonView::focusNextPrevChild(bool next) { return syncing_ || QPushButton::focusNextPrevChild(next); }
 
 // --- Frames and lines ---
 

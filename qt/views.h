@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/controls.h"
@@ -59,6 +60,8 @@ class ControlView : public Widget, public View {
         : Widget(parent), control_(control), context_(context) {
         // What the pointer does on a control is not meant for the background below it.
         this->setAttribute(Qt::WA_NoMousePropagation);
+        saying_.setSingleShot(true);
+        saying_.callOnTimeout(this, [this] { Say(); });
     }
     ~ControlView() override { control_.Changed = nullptr; }
 
@@ -80,6 +83,11 @@ class ControlView : public Widget, public View {
   protected:
     virtual bool Shown() const { return control_.Visible; }
 
+    // Tells a screen reader, by Say, what the control says when the event loop goes on. Not at each change:
+    // while the computer thinks, there are hundreds, of cards that it tries.
+    void SayLater() { saying_.start(); }
+    virtual void Say() {}
+
     // Hands an event over. A control without a handler has no such event.
     void Raise(const std::function<void()>& handler) {
         if (handler) context_.Gate.Pass(handler);
@@ -87,6 +95,9 @@ class ControlView : public Widget, public View {
 
     Model& control_;
     const ViewContext& context_;
+
+  private:
+    QTimer saying_;
 };
 
 class AreaView;
@@ -94,7 +105,7 @@ class AreaView;
 // A picture: a card, its back, an ornament.
 class ImageView : public ControlView<QWidget, Image> {
   public:
-    using ControlView::ControlView;
+    ImageView(Image& image, const ViewContext& context, QWidget* parent);
 
     void Sync() override;
     // The view of a picture that this one covers while it is shown.
@@ -105,12 +116,16 @@ class ImageView : public ControlView<QWidget, Image> {
     void Redraw();
     bool Pressable() const override { return control_.Click && control_.Enabled; }
     void Press() override { Raise(control_.Click); }
+    // Nothing: what it shows cannot be selected.
+    std::optional<bool> Selected() const { return selected_; }
     void LetGo() override;
 
   protected:
     bool Shown() const override;
     void hideEvent(QHideEvent*) override { LetGo(); }
     void paintEvent(QPaintEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void Say() override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
@@ -118,10 +133,12 @@ class ImageView : public ControlView<QWidget, Image> {
   private:
     Look LookNow() const;
     bool DrawnElsewhere() const;
+    void PaintFocus(QPainter& painter) const;
     AreaView* AreaAt(const QPoint& global) const;
 
     std::vector<ImageView*> covered_;
     ImageView* cover_ = nullptr;
+    std::optional<bool> selected_;
     bool pressed_ = false;
     bool dragged_ = false;
     QPoint pressedAt_;
@@ -140,13 +157,11 @@ class LabelView : public ControlView<QLabel, Label> {
     void paintEvent(QPaintEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void Say() override;
 
   private:
     QRect Room(const QFont& font) const;
     void Write(QPainter& painter, const QPoint& offset) const;
-    void Say();
-
-    QTimer saying_;
 
     const Container* ground_ = nullptr;
     QString drawn_;  // the caption, or as much of it as there is room for
@@ -158,11 +173,12 @@ class ButtonView : public ControlView<QPushButton, Button> {
     void Sync() override;
 
   protected:
+    bool focusNextPrevChild(bool next) override;
     // Who clicks twice means one click: the second would find what the first has changed.
     void mouseDoubleClickEvent(QMouseEvent*) override {}
 
   private:
-    bool hadFocus_ = false;  // when it was disabled
+    bool syncing_ = false;
 };
 
 // A frame without border: a plain area.

@@ -5,7 +5,12 @@ build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-
 # The fonts that the windows' fonts are mapped to: a bare system has none.
 game_packages=(fonts-liberation fonts-dejavu-core fonts-urw-base35)
 test_packages=(libgtest-dev xvfb openbox xdotool dbus at-spi2-core python3-pyatspi xauth)
-check_packages=(git clang clang-format clang-tidy libclang-rt-14-dev lintian desktop-file-utils appstream mmdebstrap)
+check_packages=(git clang clang-format clang-tidy libclang-rt-14-dev lintian desktop-file-utils appstream mmdebstrap
+                orca speech-dispatcher locales)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
 
 # Installs those of the named packages that are missing.
 need() {
@@ -21,10 +26,13 @@ need() {
         return
     fi
     echo "Installing: ${missing[*]}"
-    local as_root=()
-    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-    "${as_root[@]}" apt-get -q update
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+    as_root apt-get -q update
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+}
+
+# Makes the Spanish locale, in which the screen reader is heard, when the system lacks it.
+need_spanish() {
+    locale -a | grep -qix 'es_ES\.utf-\?8' || as_root localedef -i es_ES -f UTF-8 es_ES.UTF-8
 }
 
 # build PRESET game: the game alone, which needs no test library. build PRESET all: the tests, too.

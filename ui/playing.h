@@ -38,6 +38,18 @@ class Playing : public Form, public Mesa {
     void CargaDorsos() override;
     void MuestraResultados(const Matriz& matriz) override;
 
+    // --- What is said (playing_relato.cpp) ---
+    void DiceReparto() override;
+    void DiceToma(Jugador quien, const std::vector<int>& deLaMesa, int con) override;
+    void DiceZarpel(Jugador quien) override;
+    void DiceDeja(Jugador quien, const Slot& lugar) override;
+    void DicePasa(Jugador quien) override;
+    void DiceResto(Jugador quien, const std::vector<int>& cartas) override;
+    void DiceCuenta(const Matriz& matriz, const PorJugador<std::int16_t>& puntajes) override;
+    void DiceTurno() override;
+    // What a picture of a place is called: the card and the place, "7 de oro, mesa 4".
+    std::string NombreDe(const Slot& slot) const;
+
     // --- Input (playing_input.cpp) ---
     void mesaimg_Click(std::size_t Index);
     void cartap2img_Click(std::size_t Index);
@@ -87,6 +99,15 @@ class Playing : public Form, public Mesa {
     // moved can find the place empty, and then does nothing.
     void Toca(const Slot& slot);
     bool Confirma(const std::string& texto, BoxIcon icono);
+    void Dice(const std::string& frase);
+    void AnunciaRelato();
+    std::string LugarDe(const Slot& slot) const;
+    void DiceEleccion(const Slot& slot);
+    void DiceVacio(const Slot& slot) { desktop_.Announce(LugarDe(slot) + ", vacía."); }
+
+    std::string relato_;            // what has happened since the human last moved
+    bool abriendo_ = false;         // a saved match, over a fresh one that is no news
+    bool recienRepartido_ = false;  // since then cards were dealt, and the player knows none of them
 };
 
 }  // namespace zarpel

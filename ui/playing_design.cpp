@@ -51,19 +51,6 @@ void DrawFlag(Container& container, const Slot& slot, int left, int top) {
     slot.Marcar(false);
 }
 
-std::string NameOfCard(int carta) {
-    return carta == 0 ? "carta"
-                      : std::to_string(Naipes->Mazo_Numero(carta)) + " de " + Naipes->Mazo_Palo(carta);
-}
-
-// Places are counted from 1, as a player counts.
-void Speak(const Slot& slot, const char* row, std::size_t i) {
-    const std::string place = row + std::string(" ") + std::to_string(i + 1);
-    slot.Imagen.Spoken = [slot, place] {
-        return Speech{NameOfCard(slot.Carta()), place + (slot.Elegido() ? ", elegida" : "")};
-    };
-}
-
 }  // namespace
 
 void Playing::Design() {
@@ -121,8 +108,6 @@ void Playing::Design() {
                   .Caption = kNameAndVersion,
                   .Align = Alignment::Right,
                   .AutoSize = true}});
-    cartellbl.Announced = true;
-    SumandoLbl.Announced = true;
     DesignSlots();
     Draw(*this, {{LevantarBtn, {2160, 6480, 1095, 615}, "&Tomar Cartas"}});
     DesignCommands();
@@ -132,31 +117,33 @@ void Playing::DesignSlots() {
     for (std::size_t i = 0; i < kLugaresMesa; ++i) {
         const Slot& slot = SlotsMesa()[i];
         DrawCard(Frame1, slot.Imagen, InRow(kTableRow, slot, i), kTableTips.at(i));
-        Speak(slot, "mesa", i);
     }
     for (std::size_t i = 0; i < kLugaresMano; ++i) {
         const Slot& cpu = SlotsMano(Jugador::Cpu)[i];
         DrawCard(*this, cpu.Imagen, InRow(kCpuRow, cpu, i), kCpuTips.at(i));
-        Speak(cpu, "cpu", i);
 
         Image& dorso = fondop1img[i];
         Place over = InRow(kCpuRow, cpu, i);
         over.Width = kBackWidth;
         DrawCard(*this, dorso, over, "");
         dorso.Picture = ":/dorso.jpg";
-        dorso.Spoken = [i] { return Speech{"carta tapada", "cpu " + std::to_string(i + 1)}; };
+        dorso.Spoken = [i] { return Speech{"carta tapada, cpu " + std::to_string(i + 1), {}}; };
         cpu.Imagen.Cover = &dorso;
 
         const Slot& humano = SlotsMano(Jugador::Humano)[i];
         DrawCard(*this, humano.Imagen, InRow(kHumanRow, humano, i), kHumanTips.at(i));
         humano.Imagen.Draggable = true;
-        Speak(humano, "mano", i);
     }
     for (std::size_t i = 0; i < kLugaresMesa; ++i)
         DrawFlag(Frame1, SlotsMesa()[i], kTableFlags.at(i), kTableFlagTop);
     for (std::size_t i = 0; i < kLugaresMano; ++i) {
         DrawFlag(*this, SlotsMano(Jugador::Cpu)[i], kCpuFlags.at(i), kCpuFlagTop);
         DrawFlag(*this, SlotsMano(Jugador::Humano)[i], kHumanFlags.at(i), kHumanFlagTop);
+    }
+    for (const Slot& slot : Slots()) {
+        slot.Imagen.Spoken = [this, &slot] {
+            return Speech{NombreDe(slot), slot.Imagen.Click ? std::optional(slot.Elegido()) : std::nullopt};
+        };
     }
 }
 

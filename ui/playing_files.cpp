@@ -39,7 +39,9 @@ std::string Playing::GuardaJuego(const std::string& filename) {
 }
 
 void Playing::CargarJuego(const std::string& filename) {
+    abriendo_ = true;
     Load();
+    abriendo_ = false;
     if (LeeJuego(filename)) {
         namelbl.Caption = Naipes->Nombrejugador();
         Label2.Caption = Naipes->Nombrejugador();
@@ -51,7 +53,9 @@ void Playing::CargarJuego(const std::string& filename) {
         abrirmnu_Click();
     }
     // A saved match leaves the move to the player. One changed by hand can leave no move to make.
-    if (!TieneCartas(Jugador::Humano) || Bloqueado(Jugador::Humano)) DecideTurno();
+    recienRepartido_ = true;
+    if (!TieneCartas(Jugador::Humano) || Bloqueado(Jugador::Humano)) return DecideTurno();
+    DiceTurno();
 }
 
 // In the fresh match the computer may have played a card of its hand, whose back is gone. All backs lie there

@@ -19,7 +19,10 @@ void Playing::mesaimg_Click(std::size_t Index) { Toca(SlotsMesa()[Index]); }
 void Playing::cartap2img_Click(std::size_t Index) { Toca(SlotsMano(Jugador::Humano)[Index]); }
 
 void Playing::Toca(const Slot& slot) {
-    if (slot.Ocupado()) Verifica(slot);
+    if (!slot.Ocupado()) return DiceVacio(slot);
+    const bool antes = slot.Elegido();
+    Verifica(slot);
+    if (slot.Elegido() != antes) DiceEleccion(slot);
 }
 
 void Playing::LevantarBtn_Click() { Levanta(kSignos.Humano.Duenio); }
@@ -41,7 +44,10 @@ void Playing::SensordeTeclas(int KeyAscii, int mayus) {
     const std::size_t mano = kTeclasMano.find(tecla);
     if (mano == std::string_view::npos) return;
     const Slot& slot = SlotsMano(Jugador::Humano)[mano];
-    if (mayus == kShift) return Juega(slot.Imagen);
+    if (mayus == kShift && slot.Ocupado()) {
+        if (MesaLlena()) desktop_.Announce("La mesa está llena.");
+        return Juega(slot.Imagen);
+    }
     Toca(slot);
 }
 

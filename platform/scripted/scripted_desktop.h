@@ -43,6 +43,7 @@ class ScriptedDesktop : public Desktop {
     // --- Recorded ---
     std::vector<Message> Boxes;
     std::vector<std::string> Calls;  // everything asked of the desktop that the player sees, in order
+    std::vector<std::string> Announced;
     std::set<Form*> Shown;
 
     // The texts of the boxes since the last call of this function.
@@ -64,6 +65,7 @@ class ScriptedDesktop : public Desktop {
         if (Shown.contains(&form)) form.Form_QueryClose();
     }
     void Unload(Form& form) override { Shown.erase(&form); }
+    void Announce(const std::string& text) override { Announced.push_back(text); }
     Answer Show(const Message& message) override {
         Calls.push_back("box " + message.Text);
         Boxes.push_back(message);

@@ -23,7 +23,6 @@ sys.path.append(str(pathlib.Path(__file__).parents[2] / "tools/speed"))
 from probe import processor_s  # noqa: E402, F401
 
 DEADLINE = 60  # seconds that anything may take, on a slow machine
-CARD = re.compile(r"(\d+) de (\w+)")
 
 
 def wait(condition, what, seconds=DEADLINE):
@@ -43,7 +42,9 @@ class Node:
         self.name = accessible.get_name()
         self.description = accessible.get_description()
         self.role = accessible.get_role()
-        self.active = accessible.get_state_set().contains(Atspi.StateType.ACTIVE)
+        states = accessible.get_state_set()
+        self.active = states.contains(Atspi.StateType.ACTIVE)
+        self.chosen = states.contains(Atspi.StateType.CHECKED)
         at = accessible.get_extents(Atspi.CoordType.SCREEN)
         self.middle = (at.x + at.width // 2, at.y + at.height // 2)
         self.corner = (at.x + 3, at.y + 3)
@@ -69,11 +70,9 @@ class Table(Node):
         """The cards of "mesa", "mano" or "cpu" by place, from 1; each has `number`, `chosen` and `middle`."""
         found = {}
         for node in self.all():
-            if place := re.fullmatch(rf"{row} (\d)(, elegida)?", node.description or ""):
-                face = CARD.fullmatch(node.name)
-                node.number = int(face[1]) if face else None
-                node.chosen = bool(place[2])
-                found[int(place[1])] = node
+            if card := re.fullmatch(rf"(?:(\d+) de \w+|carta tapada), {row} (\d)", node.name or ""):
+                node.number = int(card[1]) if card[1] else None
+                found[int(card[2])] = node
         return found
 
     def lies(self):

@@ -31,6 +31,7 @@ TEST_F(LooksTest, NoNicknameIsCutOff) {
     // Nobody can read two hundred letters in the width of a card; the tooltip has them all.
     const QString letters(200, 'm');
     Game.Label2.Caption = "<b>" + letters.toStdString();
+    QCoreApplication::processEvents();
     const auto& view = ViewOf<LabelView>(Game.Label2);
     EXPECT_EQ(view.toolTip(), "<p>&lt;b&gt;" + letters + "</p>");
     const FittedText fitted = FitText(view.text(), view.font(), view.size(), false);

@@ -44,7 +44,9 @@ class Description : public ControlVisitor {
         const Speech speech = c.Visible && c.Spoken ? c.Spoken() : Speech{};
         Add("Image", c,
             Text(If(c.Visible, Quoted(c.Picture)), " corner ", c.Corner, If(c.Draggable, " draggable"),
-                 If(c.Cover != nullptr, " covered"), Quoted(speech.Name), Quoted(speech.Description)));
+                 If(c.Cover != nullptr, " covered"), Quoted(speech.Name),
+                 If(speech.Selected.has_value(), " can be selected"),
+                 If(speech.Selected.value_or(false), ", and is")));
     }
     void Visit(CheckBox& c) override { Add("CheckBox", c, Text(" ", c.Value)); }
     void Visit(Label& c) override {
@@ -54,7 +56,7 @@ class Description : public ControlVisitor {
             Text(Quoted(c.Caption), " ", font.Family, " ", font.Points, If(font.Bold, " bold"), ", ",
                  Color(c.ForeColor), If(c.Opaque, " on " + Color(c.BackColor)),
                  sides[static_cast<int>(c.Align.get())], If(c.WordWrap, " wraps"), If(c.Border, " framed"),
-                 If(c.AutoSize, Text(" grows to ", c.MaxWidth)), If(c.Announced, " told"),
+                 If(c.AutoSize, Text(" grows to ", c.MaxWidth)),
                  If(!c.SpokenAs.empty(), " called" + Quoted(c.SpokenAs))));
     }
     void Visit(Button& c) override {
