@@ -1,5 +1,5 @@
-// The pictures that the build drew from the sources in data/: of the right size, the same each time, and no two
-// cards alike.
+// The pictures that the build drew from the sources in data/: of the right size, the same each time, and no
+// two cards alike.
 #include "tools/art/pictures.h"
 
 #include <gtest/gtest.h>
