@@ -12,8 +12,10 @@ namespace {
 // One walk: the hand card, the anchor, and each later table card that still fits. True when they make 15.
 bool PruebaDesde(Mesa& mesa, std::size_t mano, std::size_t ancla) {
     mesa.EmprolijaDesktop();
-    mesa.Verifica(mesa.SlotsMano(Jugador::Cpu)[mano]);
-    if (!mesa.SlotsMesa()[ancla].Ocupado()) return false;
+    const Slot& carta = mesa.SlotsMano(Jugador::Cpu)[mano];
+    mesa.Verifica(carta);
+    // In a match changed by hand a card can count more than 15 by itself, and then it is not selected.
+    if (!carta.Elegido() || !mesa.SlotsMesa()[ancla].Ocupado()) return false;
     for (const Slot& slot : mesa.SlotsMesa().subspan(ancla)) {
         if (!slot.Ocupado()) continue;
         mesa.Verifica(slot);
