@@ -101,9 +101,9 @@ QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
         return new QAccessibleWidget(announcer, QAccessible::Notification);
     }
     if (auto* const area = dynamic_cast<AreaView*>(object)) return new AccessibleArea(area);
-    if (auto* const client = dynamic_cast<ClientArea*>(object)) return new AccessibleArea(client);
-    if (auto* const client = dynamic_cast<ClientArea*>(object->parent()); client && client->Table() == object)
-        return new AccessibleArea(client->Table());
+    if (auto* const whole = dynamic_cast<ClientArea*>(object)) return new AccessibleArea(whole);
+    auto* const client = object ? dynamic_cast<ClientArea*>(object->parent()) : nullptr;
+    if (client && client->Table() == object) return new AccessibleArea(client->Table());
     if (auto* const window = dynamic_cast<FormWindow*>(object);
         window && window->windowType() == Qt::Dialog) {
         return new QAccessibleWidget(window, QAccessible::Dialog);

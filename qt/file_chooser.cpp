@@ -27,7 +27,8 @@ QStringList FiltersOf(const std::string& filter) {
         filters.push_back(QStringLiteral("%1 (%2)").arg(parts[i], patterns));
     }
     if (QDir::separator() == '/') {
-        std::ranges::stable_partition(filters, [](const QString& each) { return each.endsWith("(*)"); });
+        std::stable_partition(filters.begin(), filters.end(),
+                              [](const QString& each) { return each.endsWith("(*)"); });
     }
     return filters;
 }
