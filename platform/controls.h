@@ -3,7 +3,12 @@
 // draws them.
 //
 // Places and sizes are in twips (1440 an inch, 15 a pixel at 96 dots an inch), relative to the container's
-// top left corner. Events are functions that the window sets and the front end calls, one at a time.
+// top left corner. Events are functions that the window sets before it is shown, and that the front end
+// calls, one at a time; one that is empty is an event that the control does not have.
+//
+// While a window is shown the game changes properties only (Property<...>), and the texts of Image::Spoken,
+// with Refresh. Plain members (children, events, buttons, tabs, panels, lines, menus) are as they were when
+// it was shown; a window that loads again sets them to the same values.
 #pragma once
 
 #include <functional>

@@ -20,8 +20,10 @@ class Form : public Container {
     void Accept(ControlVisitor&) override {}
 
     FormBorder Border = FormBorder::Sizable;
-    bool CenterOnScreen = false;  // else a dialog opens over the window below it
-    Place BoxArea;                // where boxes stand that open above it; of no size: in its middle
+    // A dialog opens where its Left and Top say, from the screen's top left corner (it has worked them out
+    // from Desktop::Screen); otherwise over the middle of the window below it, and Left and Top are not used.
+    bool CenterOnScreen = false;
+    Place BoxArea;  // where boxes stand that open above it; of no size: in its middle
     std::vector<Menu*> Menus;
 
     // Every key pressed while the window is active, before the focused control gets it (which it still does).

@@ -14,7 +14,10 @@ class Observed {
     Observed(const Observed&) = delete;
     Observed& operator=(const Observed&) = delete;
 
-    // Set by the watcher; called after every change of a property and by Refresh.
+    // Set by the watcher, and by nobody else: the game leaves it alone. Called after every change of a
+    // property and by Refresh, which can be hundreds of times in one event, most of them on the way to
+    // something else (the computer tries cards). What is costly is best done once for all: mark the control
+    // here, and bring it into step when the event is over or a call of the desktop blocks.
     std::function<void()> Changed;
 
     // Asks the watcher to draw again, although nothing changed.

@@ -12,6 +12,7 @@
 #include <array>
 
 #include "qt/colors.h"
+#include "qt/fonts.h"
 
 namespace zarpel {
 namespace {
@@ -44,6 +45,14 @@ QString Bounded(const QString& text, const QFontMetrics& letters, const QSize& r
         bounded = bounded.left(bounded.size() / 2) + QStringLiteral("…");
     }
     return bounded;
+}
+
+// The beginning of the text that the label can show whole.
+QString AsMuchAsFits(const QString& text, const Label& label) {
+    constexpr int kMost = 100;  // more than any label has room for
+    QString kept = text.left(kMost);
+    while (!FitsWhole(kept, label)) kept.chop(kept.back().isLowSurrogate() ? 2 : 1);
+    return kept;
 }
 
 class Box : public QMessageBox {
@@ -104,12 +113,16 @@ Answer Show(const Site& site, const Message& message, const std::string& applica
 }
 
 std::string InputBox(const Site& site, const std::string& prompt, const std::string& title,
-                     const std::string& proposed) {
+                     const std::string& proposed, const Label& shownBy) {
     QInputDialog box(site.Owner);
     box.setWindowTitle(QString::fromStdString(title));
     box.setLabelText(QString::fromStdString(prompt));
     box.setTextValue(QString::fromStdString(proposed));
     if (auto* const line = box.findChild<QLineEdit*>()) line->setMinimumWidth(TitleWidth(box.windowTitle()));
+    QObject::connect(&box, &QInputDialog::textValueChanged, &box, [&box, &shownBy](const QString& typed) {
+        const QString kept = AsMuchAsFits(typed, shownBy);
+        if (kept != typed) box.setTextValue(kept);
+    });
     box.adjustSize();
     PlaceAt(site, box);
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();

@@ -11,7 +11,7 @@ namespace zarpel {
 // Each blocks until the player has answered, and does what the call of Desktop of the same name says.
 Answer Show(const Site& site, const Message& message, const std::string& applicationTitle);
 std::string InputBox(const Site& site, const std::string& prompt, const std::string& title,
-                     const std::string& proposed);
+                     const std::string& proposed, const Label& shownBy);
 bool ShowColor(const Site& site, ChooserState& dialog);
 
 }  // namespace zarpel

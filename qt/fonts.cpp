@@ -65,6 +65,13 @@ FittedText FitText(const QString& text, QFont font, const QSize& room, bool wrap
     return {font, QFontMetrics(font).elidedText(text, Qt::ElideRight, room.width())};
 }
 
+bool FitsWhole(const QString& text, const Label& label) {
+    const TableScale smallest(kSmallestScale);
+    const QFont font = FontOf(label.Font, smallest);
+    const QSize room(smallest.Pixels(label.MaxWidth), QFontMetrics(font).height());
+    return FitText(text, font, room, label.WordWrap).Text == text;
+}
+
 FittedText ShortenPath(const QString& path, const QFont& font, int width) {
     return {font, QFontMetrics(font).elidedText(path, Qt::ElideMiddle, width)};
 }

@@ -26,6 +26,9 @@ struct FittedText {
 // letters bring in is shortened to one line that ends in "…".
 FittedText FitText(const QString& text, QFont font, const QSize& room, bool wrap);
 
+// True when the label can show the text whole, with its window at its smallest.
+bool FitsWhole(const QString& text, const Label& label);
+
 // A path on one line of this width (pixels); one that is too long is shortened in the middle, so that one
 // sees where it begins and what it names.
 FittedText ShortenPath(const QString& path, const QFont& font, int width);

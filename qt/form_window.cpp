@@ -20,9 +20,6 @@
 namespace zarpel {
 namespace {
 
-// Of the main window's client area, in pixels for a twip: here every text can still be read.
-constexpr double kSmallest = 0.8 / kTwipsPerPixel;
-
 // A window that has not been moved for so long stays where it is.
 constexpr int kRestMs = 100;
 
@@ -146,7 +143,7 @@ FormWindow::FormWindow(Form& form, const ViewContext& context, QWidget* owner)
     layout->setSpacing(0);
     client_ = new ClientArea(form, context_, this);
     if (form.Border == FormBorder::Sizable)
-        client_->setMinimumSize((QSizeF(FormSize()) * kSmallest).toSize());
+        client_->setMinimumSize((QSizeF(FormSize()) * kSmallestScale).toSize());
     layout->addWidget(client_, 1);
     context_.Moves = new Motion(client_->Table(), context_.Scale, context_.Pictures);
     announcer_ = new Announcer(this);

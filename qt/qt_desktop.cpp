@@ -197,8 +197,8 @@ Answer QtDesktop::Show(const Message& message) {
 }
 
 std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
-                                const std::string& proposed) {
-    return zarpel::InputBox(BoxSite(), prompt, title, proposed);
+                                const std::string& proposed, const Label& shownBy) {
+    return zarpel::InputBox(BoxSite(), prompt, title, proposed, shownBy);
 }
 
 bool QtDesktop::ShowOpen(ChooserState& dialog) { return zarpel::ShowOpen(ChooserSite(), paths_, dialog); }

@@ -41,8 +41,8 @@ class QtDesktop : public Desktop {
     Place Screen() const override;
     void Announce(const std::string& text) override;
     Answer Show(const Message& message) override;
-    std::string InputBox(const std::string& prompt, const std::string& title,
-                         const std::string& proposed) override;
+    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& proposed,
+                         const Label& shownBy) override;
     bool ShowOpen(ChooserState& dialog) override;
     bool ShowSave(ChooserState& dialog) override;
     bool ShowColor(ChooserState& dialog) override;

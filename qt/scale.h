@@ -13,8 +13,13 @@ namespace zarpel {
 constexpr double kTwipsPerPixel = 15;  // at 96 dots an inch
 constexpr double kTwipsPerPoint = 20;
 
+// Of the main window, in pixels for a twip: here every text can still be read.
+constexpr double kSmallestScale = 0.8 / kTwipsPerPixel;
+
 class TableScale {
   public:
+    explicit TableScale(double factor = 1 / kTwipsPerPixel) : factor_(factor) {}
+
     // The largest factor at which a form of this size (twips) fits into a client area of that (logical
     // pixels).
     void FitTo(const QSize& client, const QSize& form) {
@@ -42,7 +47,7 @@ class TableScale {
     bool operator==(const TableScale&) const = default;
 
   private:
-    double factor_ = 1 / kTwipsPerPixel;
+    double factor_;
 };
 
 inline Place PlaceOf(const Control& control) {

@@ -7,8 +7,6 @@ namespace {
 
 void Append(Fields& fields, std::initializer_list<Field> more) { fields.insert(fields.end(), more); }
 
-Field Nickname() { return RecordField(*Naipes, &classnaipe::Nombrejugador, &classnaipe::aNombrejugador); }
-
 // A match can only be saved after the first distribution of a deal, so the flag is never set in a file.
 Field FirstDistribution() {
     return FieldFrom([] { return false; }, [](bool primermano) { Naipes->aPrimermano(primermano); });
@@ -16,10 +14,7 @@ Field FirstDistribution() {
 
 }  // namespace
 
-Fields PreferenceFields(const PreferencePlaces& places) {
-    return {Nickname(), PropertyField(places.Application), PropertyField(places.Table),
-            PropertyField(places.Rectangle), PropertyField(places.CardBack)};
-}
+Field Nickname() { return RecordField(*Naipes, &classnaipe::Nombrejugador, &classnaipe::aNombrejugador); }
 
 Fields MatchFields(Mesa& mesa) {
     Fields fields = {PropertyField(mesa.puntajeP1Lbl.Caption), PropertyField(mesa.puntajeP2Lbl.Caption),

@@ -10,6 +10,14 @@ namespace {
 
 constexpr const char* kTerminaJuego = "Esta accion terminara con el juego actual, continuar?";
 
+// The text without the blanks around it.
+std::string SinBlancos(const std::string& texto) {
+    constexpr const char* kBlancos = " \t";
+    const std::size_t primero = texto.find_first_not_of(kBlancos);
+    if (primero == std::string::npos) return {};
+    return texto.substr(primero, texto.find_last_not_of(kBlancos) + 1 - primero);
+}
+
 }  // namespace
 
 bool Playing::Confirma(const std::string& texto, BoxIcon icono) {
@@ -33,7 +41,8 @@ void Playing::guardarmnu_Click() {
 
 void Playing::nombremnu_Click() {
     if (!Confirma(kTerminaJuego, BoxIcon::Exclamation)) return;
-    const std::string nombre = desktop_.InputBox("Ingrese su Nick Name", "Nuevo Jugador", "Humano");
+    const std::string nombre =
+        SinBlancos(desktop_.InputBox("Ingrese su Nick Name", "Nuevo Jugador", "Humano", Label2));
     if (!nombre.empty()) {
         Naipes->aNombrejugador(nombre);
         SaveProperty();

@@ -20,8 +20,13 @@ bool EsPuntaje(const std::string& texto) {
 
 }  // namespace
 
+// The preference files, line by line.
 Fields Playing::Preferencias() {
-    return PreferenceFields({Toolbar1.Tag, BackColor, Frame1.BackColor, fondop1img[0].Tag});
+    return {Nickname(),                         //
+            PropertyField(Toolbar1.Tag),        // command line of the program that "Run" starts
+            PropertyField(BackColor),           // of the table
+            PropertyField(Frame1.BackColor),    // of the rectangle
+            PropertyField(fondop1img[0].Tag)};  // path of the card backs' picture
 }
 
 void Playing::SaveProperty() { SaveFile(desktop_, desktop_.Folder() + "\\lastprop.dat", Preferencias()); }

@@ -81,11 +81,16 @@ void preferenciasfrm::Form_Load() {
     tbsOptions_Click();  // the page stands where the click on a tab puts it
 }
 
+template <class Action>
+void preferenciasfrm::CadaPreferencia(Action action) {
+    action(Label1.BackColor, playing_.BackColor);
+    action(Label6.BackColor, playing_.Frame1.BackColor);
+    action(Label5.Caption, playing_.Toolbar1.Tag);
+    action(Label8.Caption, playing_.fondop1img[0].Tag);
+}
+
 void preferenciasfrm::ValoresActuales() {
-    Label1.BackColor = playing_.BackColor;
-    Label5.Caption = playing_.Toolbar1.Tag;
-    Label6.BackColor = playing_.Frame1.BackColor;
-    Label8.Caption = playing_.fondop1img[0].Tag;
+    CadaPreferencia([](auto& aqui, const auto& enLaMesa) { aqui = enLaMesa; });
 }
 
 // A cancelled chooser still holds a colour, and the swatch takes it.
@@ -117,10 +122,7 @@ void preferenciasfrm::Command1_Click() {
 }
 
 void preferenciasfrm::cmdOK_Click() {
-    playing_.BackColor = Label1.BackColor;
-    playing_.Frame1.BackColor = Label6.BackColor;
-    playing_.Toolbar1.Tag = Label5.Caption;
-    playing_.fondop1img[0].Tag = Label8.Caption;
+    CadaPreferencia([](const auto& aqui, auto& enLaMesa) { enLaMesa = aqui; });
     playing_.SaveProperty();
     desktop_.Unload(*this);
 }

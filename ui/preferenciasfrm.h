@@ -46,6 +46,9 @@ class preferenciasfrm : public Form {
     void Form_Load();
     void Design();
     void ConnectEvents();
+    // Calls `action` with each preference: its value in the dialog, and its place in the main window.
+    template <class Action>
+    void CadaPreferencia(Action action);
     void EligeColor(Label& muestra);
     bool EligeArchivo(const std::string& filtro);
 

@@ -72,9 +72,10 @@ class ScriptedDesktop : public Desktop {
         OnBox(message);
         return message.Buttons == BoxButtons::Ok ? Answer::Ok : Take(Answers, Answer::Yes);
     }
-    std::string InputBox(const std::string& prompt, const std::string& title,
-                         const std::string& proposed) override {
-        Calls.push_back("input " + prompt + "|" + title + "|" + proposed);
+    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& proposed,
+                         const Label& shownBy) override {
+        Calls.push_back("input " + prompt + "|" + title + "|" + proposed + "|" +
+                        std::to_string(shownBy.MaxWidth));
         return Take(Typed, {});
     }
     bool ShowOpen(ChooserState& dialog) override { return Choose("open", dialog); }

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QTreeView>
 
+#include "qt/fonts.h"
 #include "tests/qt/qt_table.h"
 #include "ui/preferenciasfrm.h"
 #include "ui/resultadosfrm.h"
@@ -55,8 +56,15 @@ TEST_F(BoxesTest, ABoxSaysWhatItWasGivenAndTakesEveryAnswer) {
     }
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         InBox([key](QWidget& box) { Leave(box, key); });
-        EXPECT_EQ(Desktop.InputBox("Nombre", "Jugador", "Ana"), key == Qt::Key_Return ? "Ana" : "");
+        EXPECT_EQ(Desktop.InputBox("Nombre", "Jugador", "Ana", Game.Label2),
+                  key == Qt::Key_Return ? "Ana" : "");
     }
+    InBox([](QWidget& box) {
+        QTest::keyClicks(box.focusWidget(), QString(60, 'W'));
+        Leave(box, Qt::Key_Return);
+    });
+    const QString name = QString::fromStdString(Desktop.InputBox("Nombre", "Jugador", "", Game.Label2));
+    EXPECT_TRUE(FitsWhole(name, Game.Label2) && !FitsWhole(name + 'W', Game.Label2)) << name.size();
 }
 
 TEST_F(BoxesTest, AMatchIsSavedUnderTheNameThatTheChooserShowsInASpanishList) {

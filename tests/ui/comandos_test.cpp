@@ -24,7 +24,7 @@ TEST(Comandos, AskAndCallInOrder) {
     const Message fresh = Ask("Esta accion terminara con el juego actual\n¿continuar?", BoxIcon::Question);
     const Message leave = Ask("Esta accion terminara con la aplicacion\n¿continuar?", BoxIcon::Question);
     const Message farewell = {"CHAU!"};
-    const std::string prompt = "input Ingrese su Nick Name|Nuevo Jugador|Humano";
+    const std::string prompt = "input Ingrese su Nick Name|Nuevo Jugador|Humano|1215";
     const std::string saved = "write C:\\Zarpel\\lastprop.dat", help = "help C:\\Zarpel\\ayuda.chm";
     constexpr auto kYes = Answer::Yes, kNo = Answer::No;
     enum After { kSame, kNewMatch, kClosed };
@@ -34,7 +34,7 @@ TEST(Comandos, AskAndCallInOrder) {
         Answer Pressed;
         After Then;
         std::vector<std::string> Calls = {};  // after the boxes
-        std::string Typed = {};
+        std::string Typed = {}, Name = "Humano";
     } commands[] = {
         {Tool("Nuevo"), {fresh}, kNo, kSame},
         {Tool("Nuevo"), {fresh}, kYes, kNewMatch},
@@ -44,7 +44,8 @@ TEST(Comandos, AskAndCallInOrder) {
         {Entry(&Playing::Nuevomnu), {}, kNo, kNewMatch},
         {Entry(&Playing::nombremnu), {menu}, kNo, kSame},
         {Entry(&Playing::nombremnu), {menu}, kYes, kNewMatch, {prompt}},
-        {Entry(&Playing::nombremnu), {menu}, kYes, kNewMatch, {prompt, saved}, "Ñusta"},
+        {Entry(&Playing::nombremnu), {menu}, kYes, kNewMatch, {prompt, saved}, " Ña Ñusta\t", "Ña Ñusta"},
+        {Entry(&Playing::nombremnu), {menu}, kYes, kNewMatch, {prompt}, " \t"},
         {Entry(&Playing::preferenciasmnu), {}, kNo, kSame, {"modal Opciones"}},
         {Entry(&Playing::salir), {farewell}, kNo, kClosed},
         {&Playing::Form_QueryClose, {farewell}, kNo, kClosed},
@@ -68,7 +69,7 @@ TEST(Comandos, AskAndCallInOrder) {
         EXPECT_EQ(table.Desktop.Boxes, command.Boxes);
         EXPECT_EQ(table.Window.puntajeP2Lbl.Caption.get(), command.Then == kNewMatch ? "0" : "7");
         EXPECT_EQ(table.Desktop.Shown.empty(), command.Then == kClosed);
-        EXPECT_EQ(table.Window.namelbl.Caption.get(), command.Typed.empty() ? "Humano" : command.Typed);
+        EXPECT_EQ(table.Window.namelbl.Caption.get(), command.Name);
     }
 }
 
