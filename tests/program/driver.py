@@ -121,9 +121,9 @@ class Game:
         return wait(look, what)
 
     def box(self):
-        """The message box, or chooser, that is open and takes the keys, or None."""
+        """The message box, or chooser, that is open and takes the keys, or None. "Opciones" may lie under it."""
         boxes = (Atspi.Role.ALERT, Atspi.Role.DIALOG)
-        return self.active(lambda w: w.get_role() in boxes and w.get_name() != "Resultados")
+        return self.active(lambda w: w.get_role() in boxes and w.get_name() not in ("Resultados", "Opciones"))
 
     def named(self, name):
         return self.active(lambda w: w.get_name() == name)
