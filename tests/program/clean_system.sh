@@ -13,10 +13,6 @@ inside env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-re
 inside useradd -m player
 echo dañada >"$root/home/player/partida.zrp"
 
-openbox &
-trap 'kill %1' EXIT
-chroot --userspec=player:player "$root" env -i HOME=/home/player DISPLAY="$DISPLAY" PATH=/usr/bin:/usr/games zarpel &
-game=$!
 within_a_minute() {
     for _ in {1..60}; do
         "$@" && return
@@ -24,6 +20,11 @@ within_a_minute() {
     done
     return 1
 }
+openbox &
+trap 'kill %1' EXIT
+within_a_minute xdotool search --class openbox >/dev/null 2>&1  # it gives the keyboard only to windows that come later
+chroot --userspec=player:player "$root" env -i HOME=/home/player DISPLAY="$DISPLAY" PATH=/usr/bin:/usr/games zarpel &
+game=$!
 shows_the_table() { xdotool search --onlyvisible --name '^Playing$' >/dev/null 2>&1; }
 leaves() { ! kill -0 $game 2>/dev/null || { xdotool key alt+F4 && false; }; }  # the table, then the farewell
 within_a_minute shows_the_table || fail "there is no table"

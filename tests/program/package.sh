@@ -21,4 +21,4 @@ remarks=$(lintian --fail-on none "$deb" 2>/dev/null)
 # The clean system is made, used and thrown away at once. Its programs find the display by the network that they share.
 export ZARPEL_DEB=$deb
 xvfb-run -a -s "-screen 0 1280x800x24 -ac" \
-    mmdebstrap --quiet --variant=minbase --customize-hook="$here/clean_system.sh" bookworm /dev/null
+    mmdebstrap --quiet --variant=minbase --dpkgopt=force-unsafe-io --customize-hook="$here/clean_system.sh" bookworm /dev/null
