@@ -85,7 +85,7 @@ class Mesa {
     // Lays the hand card shown in `Source` on the first free table slot and passes the turn. On a full table,
     // or when the card is gone (a drop that waited while others moved), nothing happens, and the turn stays.
     void Juega(Image& Source);
-    // Sets the owner tag of card `subind`, 1 to 40; 0, which is no card, is passed over.
+    // Sets the owner tag of card `subind`, 1 to 40.
     void AsignoANaipe(int subind, const std::string& aquien);
 
     // --- What a player can do (paso.cpp) ---

@@ -196,9 +196,6 @@ void Mesa::Juega(Image& Source) {
     DecideTurno();
 }
 
-void Mesa::AsignoANaipe(int subind, const std::string& aquien) {
-    if (subind == 0) return;
-    Naipes->aMazo_Duenio(subind, aquien);
-}
+void Mesa::AsignoANaipe(int subind, const std::string& aquien) { Naipes->aMazo_Duenio(subind, aquien); }
 
 }  // namespace zarpel

@@ -81,6 +81,18 @@ TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
     }
 }
 
+// A file changed by hand can leave five cards to deal, which are two for who deals last.
+TEST(Reparto, LeavesPlacesBareWhenTheStockEnds) {
+    Table table;
+    table.Lay({}, {}, {});
+    for (int i = 6; i <= 40; ++i) Naipes->aMazo_Duenio(i, "player1");
+    Naipes->aPrimermano(false);
+    table.GiveMoveTo(Jugador::Humano);
+    EXPECT_TRUE(table.Window.cartap2img[1].Visible);
+    EXPECT_FALSE(table.Window.cartap2img[2].Visible);
+    EXPECT_EQ(Naipes->Repartidas(), 40) << "the deal ends with these cards";
+}
+
 // Wherever on a full table the only card lies that makes 15.
 TEST(Paso, NobodyPassesWhoHasACapture) {
     for (std::size_t place = 0; place < 8; ++place) {
