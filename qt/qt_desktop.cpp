@@ -26,6 +26,9 @@ namespace {
 // Milliseconds after the start at which the program does what its first picture can do without.
 constexpr int kLaterMs = 300;
 
+// A window that is not on the screen after so many milliseconds may never come there.
+constexpr int kLongestWayMs = 1000;
+
 // Acts once, from the event loop, so many milliseconds from now, unless the receiver is gone by then. Not
 // QTimer::singleShot, whose timer the leak check takes for lost when the program ends first.
 template <class Action>
@@ -105,14 +108,24 @@ void QtDesktop::Show(Form& form) {
 }
 
 // The scale depends on the room that the window really has, under its title and menu bar. The table's widgets
-// are made, and the game goes on to deal, while the window is on its way.
+// are made while the window is on its way. The bare table is seen before the game goes on to deal, since to
+// read the cards takes longer than all the rest.
 void QtDesktop::ShowMaximised(FormWindow& window) {
     UseScale(window.FormSize(), window.screen()->availableSize());
-    window.Fit = [this, &window] { Fit(window); };
+    QEventLoop onItsWay;
+    bool there = false;
+    window.Fit = [this, &window, &onItsWay, &there] {
+        Fit(window);
+        there = true;
+        onItsWay.quit();
+    };
     window.Themed = [this] { UseLook(); };
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     window.Fill();
+    After(kLongestWayMs, &onItsWay, [&onItsWay] { onItsWay.quit(); });
+    if (!there) onItsWay.exec(QEventLoop::ExcludeUserInputEvents);
+    window.Fit = [this, &window] { Fit(window); };
     After(kLaterMs, &window, [] {
         SpeakSpanish();
         QApplication::setWindowIcon(ProgramIcon());

@@ -22,6 +22,7 @@ xtest.XTestFakeButtonEvent.argtypes = [ctypes.c_void_p, ctypes.c_uint, ctypes.c_
 
 ALL_PLANES, Z_PIXMAP = 0xFFFFFFFF, 2
 DEADLINE = 20  # seconds
+BETWEEN_LOOKS = 0.0005  # seconds; looking all the time takes the processor from the program and from the display
 
 
 class Screen:
@@ -45,6 +46,7 @@ class Screen:
         while self.pixel(x, y) == unlike:
             if time.perf_counter() - start > DEADLINE:
                 sys.exit("nothing was painted")
+            time.sleep(BETWEEN_LOOKS)
         return time.perf_counter() - start
 
     def point(self, x, y):
