@@ -6,145 +6,101 @@
 Every card, sum and move must be spoken to its end. What is said of the whole table after a deal of cards must be what
 the moves told before had made of it; the count at the end must be that of the cards that were heard to be taken.
 """
-import itertools
 import re
 import sys
 
 from ear import listening
-from driver import game, keys
+from deal_test import LETTERS, capture
+from driver import game, keys, number
 
 CARD = r"\d+ de \w+"
 CARDS = rf"{CARD}(?:(?:, | y ){CARD})*"
-PLACES = r"(?: vacía|: ([^.]*))\."
-LETTERS = "asdfghjk"
 WHO = r"(La Cpu|Humano)"
 BOXES = "¡¡¡ZARPEL!!!|La mesa está llena|Ninguno de los dos"
-
-
-def number(card):
-    return int(card.split()[0])
-
-
-def by_place(text):
-    """{1: "7 de oro"} of "1, 7 de oro; 3, 4 de copa"."""
-    return {int(place): card for place, card in re.findall(rf"(\d), ({CARD})", text or "")}
+WITHOUT_TRACE = r"Juega Humano|Se reparten tres cartas|Fin de la vuelta|.* pasa|\w+: Cpu \d+, Humano \d+"
+COUNTED = {"Cartas": " de ", "Oros": " de oro", "Sietes": "7 de ", "Velo": "7 de oro", "Zarpel": "zarpel"}
 
 
 class Deal:
     def __init__(self, ear):
         self.ear = ear
-        self.table, self.hand = None, {}
+        self.begin()
+
+    def begin(self):
+        self.table, self.table_heard, self.hand = {}, False, {}
         self.won = {"La Cpu": [], "Humano": []}
-        self.zarpels = {"La Cpu": 0, "Humano": 0}
 
-    def understand(self, text):
-        """Follows what is told, sentence by sentence; what is not understood fails."""
-        for sentence in re.findall(r"[^.]+\.", text):
-            sentence = sentence.strip()
-            if told := re.fullmatch(rf"{WHO} deja ({CARD}), mesa (\d)\.", sentence):
-                assert int(told[3]) not in (self.table or {}), (sentence, self.table)
-                if self.table is not None:
-                    self.table[int(told[3])] = told[2]
-            elif told := re.fullmatch(rf"{WHO} toma ({CARDS}) con ({CARD})\.", sentence):
-                self.take(told[1], re.findall(CARD, told[2]), told[3])
-            elif told := re.fullmatch(rf"{WHO} se lleva el resto: ({CARDS})\.", sentence):
-                self.take(told[1], re.findall(CARD, told[2]))
-            elif told := re.fullmatch(rf"Zarpel: {WHO} deja la mesa vacía\.", sentence):
-                self.zarpels[told[1]] += 1
-            elif re.fullmatch(r"Reparte \w+\.", sentence):
-                self.table, self.won = None, {who: [] for who in self.won}
-                self.zarpels = dict.fromkeys(self.zarpels, 0)
-            elif told := re.fullmatch("Mesa" + PLACES, sentence):
-                heard = by_place(told[1])
-                assert self.table in (None, heard), (heard, self.table)
-                self.table = heard
-            elif told := re.fullmatch("Mano" + PLACES, sentence):
-                self.hand = by_place(told[1])
-            else:
-                known = r"Juega Humano|Se reparten tres cartas|Fin de la vuelta|.* pasa|\w+: Cpu \d+, Humano \d+"
-                assert re.fullmatch(rf"({known})\.", sentence), sentence
+    def understand(self, sentence):
+        """Follows what is told; what is not understood fails."""
+        if told := re.fullmatch(rf"{WHO} deja ({CARD}), mesa (\d)", sentence):
+            assert int(told[3]) not in self.table, (sentence, self.table)
+            self.table[int(told[3])] = told[2]
+        elif told := re.fullmatch(rf"{WHO} (?:toma|se lleva el resto:) ({CARDS})(?: con ({CARD}))?", sentence):
+            self.take(told[1], re.findall(CARD, told[2]), re.findall(CARD, told[3] or ""))
+        elif told := re.fullmatch(rf"Zarpel: {WHO} deja la mesa vacía", sentence):
+            self.won[told[1]].append("zarpel")
+        elif re.fullmatch(r"Reparte \w+", sentence):
+            self.begin()
+        elif told := re.fullmatch(r"(Mesa|Mano)(?: vacía|: (.*))", sentence):
+            heard = {int(place): card for place, card in re.findall(rf"(\d), ({CARD})", told[2] or "")}
+            if told[1] == "Mano":
+                self.hand = heard
+                return
+            assert heard == self.table or not self.table_heard, (heard, self.table)
+            self.table, self.table_heard = heard, True
+        else:
+            assert re.fullmatch(WITHOUT_TRACE, sentence), sentence
 
-    def take(self, who, cards, using=None):
-        assert not using or sum(map(number, cards + [using])) == 15, (cards, using)
-        for card in cards:
-            places = [place for place, lies in (self.table or {}).items() if lies == card]
-            if self.table is not None:
-                del self.table[places[0]]
-        self.won[who] += cards + ([using] if using else [])
+    def take(self, who, cards, using):
+        assert not using or sum(map(number, cards + using)) == 15, (cards, using)
+        assert set(cards) <= set(self.table.values()) or not self.table_heard, (cards, self.table)
+        self.table = {place: card for place, card in self.table.items() if card not in cards}
+        self.won[who] += cards + using
 
     def next(self):
         """Hears all until the player is to move, and gives nothing, or until the count, and gives that."""
-        while True:
-            said = self.ear.hear(rf"(?:^notificación )?(.*Juega Humano\.|.*Cartas: Cpu .*)$|{BOXES}")
-            if not said[1]:
-                keys("Return")
-                continue
-            self.understand(said[1])
-            return said[1] if "Cartas: Cpu" in said[1] else None
-
-    def capture(self):
-        for place, card in self.hand.items():
-            for count in range(1, len(self.table) + 1):
-                for places in itertools.combinations(self.table, count):
-                    if number(card) + sum(number(self.table[p]) for p in places) == 15:
-                        return place, places
-        return None
-
-    def select(self, key, card, total):
-        keys(key)
-        self.ear.hear(rf"{card} elegida, suma {total}\.")
-        return total
+        turn = rf"(?:^notificación )?(.*Juega Humano\.|.*Cartas: Cpu .*)$|{BOXES}"
+        while not (said := self.ear.hear(turn))[1]:
+            keys("Return")
+        for sentence in re.findall(r"[^.]+(?=\.)", said[1]):
+            self.understand(sentence.strip(". "))
+        return said[1] if "Cartas: Cpu" in said[1] else None
 
     def move(self):
-        if not (found := self.capture()):
+        if not (found := capture(self.hand, self.table)):
             place = min(self.hand)
             del self.hand[place]
             return keys(f"shift+{place}")
         place, places = found
-        total = self.select(str(place), self.hand[place], number(self.hand[place]))
-        for taken in places:
-            total = self.select(LETTERS[taken - 1], self.table[taken], total + number(self.table[taken]))
-        del self.hand[place]
+        total = 0
+        taken = ((LETTERS[place - 1], self.table[place]) for place in places)
+        for key, card in [(str(place), self.hand.pop(place)), *taken]:
+            total += number(card)
+            keys(key)
+            self.ear.hear(rf"{card} elegida, suma {total}\.")
         return keys("l")
 
     def check(self, count):
-        heard = {row: (int(cpu), int(human)) for row, cpu, human in re.findall(r"(\w+): Cpu (\d+), Humano (\d+)", count)}
-        rows = {"Cartas": len, "Oros": lambda won: sum(card.endswith("oro") for card in won),
-                "Sietes": lambda won: sum(number(card) == 7 for card in won),
-                "Velo": lambda won: won.count("7 de oro")}
-        sides = self.won["La Cpu"], self.won["Humano"]
-        for row, figure in rows.items():
-            assert heard[row] == tuple(map(figure, sides)), (row, heard, self.won)
-        assert heard["Zarpel"] == (self.zarpels["La Cpu"], self.zarpels["Humano"]), (heard, self.zarpels)
-        points = [zarpels + sum(figure(own) > figure(other) for figure in rows.values())
-                  for own, other, zarpels in zip(sides, sides[::-1], heard["Zarpel"])]
-        assert heard["Puntos"] == tuple(points), (heard, points)
+        for row, part in COUNTED.items():
+            cpu, human = (sum(part in card for card in won) for won in self.won.values())
+            assert f"{row}: Cpu {cpu}, Humano {human}." in count, (row, count, self.won)
 
 
 def look_around(ear, deal):
     """The table again by Tab, the menus, and a place without a card."""
     empty = next(place for place in range(1, 9) if place not in deal.table)
-    keys(LETTERS[empty - 1])
-    ear.hear(rf"mesa {empty}, vacía\.")
-    for button in ("Nuevo", "Run", "Salir"):
-        keys("Tab")
-        ear.hear(button)
-    for row, cards in (("mesa", deal.table), ("mano", deal.hand)):
-        for place, card in sorted(cards.items()):
-            keys("Tab")
-            ear.hear(rf"{card}, {row} {place}\b.* no marcada")
-    keys("space")
-    ear.hear(rf"{card} elegida, suma {number(card)}\.")
-    keys("space")
-    ear.hear(rf"{card} suelta, suma 0\.")
-    keys("F10")
-    ear.hear("Archivo")
-    keys("Down")
-    ear.hear("Nuevo")
-    keys("Escape")
-    ear.hear("Archivo")
-    keys("Escape")
-    ear.hear(rf"{card}, mano")
+    cards = [(card, f"{row} {place}") for row, lies in (("mesa", deal.table), ("mano", deal.hand))
+             for place, card in sorted(lies.items())]
+    last, place = cards[-1]
+    for key, said in [(LETTERS[empty - 1], rf"mesa {empty}, vacía\."),
+                      *(("Tab", button) for button in ("Nuevo", "Run", "Salir")),
+                      *(("Tab", rf"{card}, {place}\b.* no marcada") for card, place in cards),
+                      ("space", rf"{last} elegida, suma {number(last)}\."),
+                      ("space", rf"{last} suelta, suma 0\."),
+                      ("F10", "Archivo"), ("Down", "Nuevo"), ("Escape", "Archivo"),
+                      ("Escape", f"{last}, {place}")]:
+        keys(key)
+        ear.hear(said)
 
 
 def main():

@@ -8,7 +8,7 @@ With the keyboard, keys are also struck while the computer moves: they arrive af
 import itertools
 import sys
 
-from driver import click, desktop, drag, game, keys, wait
+from driver import click, desktop, drag, game, keys, number, wait
 
 LETTERS = "asdfghjk"
 ZARPEL = "¡¡¡ZARPEL!!!"
@@ -38,19 +38,18 @@ class Mouse:
         drag(card, table.area(3).corner)
 
 
-def capture(table):
-    """A card of the hand and cards of the table that make 15, as places; or nothing."""
-    on_table = table.cards("mesa")
-    for place, card in table.cards("mano").items():
-        for count in range(1, len(on_table) + 1):
-            for places in itertools.combinations(on_table, count):
-                if card.number + sum(on_table[p].number for p in places) == 15:
+def capture(hand, table):
+    """The places of a card of the hand and of cards of the table that make 15, all given by place; or nothing."""
+    for place, card in hand.items():
+        for count in range(1, len(table) + 1):
+            for places in itertools.combinations(table, count):
+                if number(card) + sum(number(table[p]) for p in places) == 15:
                     return place, places
     return None
 
 
 class Deal:
-    def __init__(self, running, hands):
+    def __init__(self, running, hands=Keyboard()):
         self.running = running
         self.hands = hands
 
@@ -82,24 +81,18 @@ class Deal:
         self.running.answer("Zarpel", text)
 
     def move(self, table):
-        found = capture(table)
         hand, cards = table.cards("mano"), table.cards("mesa")
-        if found:
+        if found := capture(*table.lies()):
             place, places = found
             self.hands.select("mano", place, hand[place])
             for taken in places:
                 self.hands.select("mesa", taken, cards[taken])
-            ready = self.running.table("the selection", lambda now: chosen(now, 1 + len(places)))
-            assert "15" in ready.texts(), ready.texts()
-            self.hands.take(ready)
+            selected = lambda now: (now.chosen("mano"), now.chosen("mesa")) == ([place], list(places))
+            self.hands.take(self.running.table("the selection", selected))
         else:
             place = min(hand)
             self.hands.lay(place, hand[place], table)
         wait(lambda: self.running.box() or self.running.table().lies() != table.lies(), "the move")
-
-
-def chosen(table, count):
-    return count == sum(card.chosen for row in ("mesa", "mano") for card in table.cards(row).values())
 
 
 def strike_while_the_computer_moves(deal):
@@ -109,17 +102,17 @@ def strike_while_the_computer_moves(deal):
     keys("shift+1", "2", "3")  # no key twice in a row: within a millisecond, the toolkit takes it for one held down
     look = running.table("the computer's move", lambda table: running.box() or not table.humans_turn())
     if not running.table().humans_turn():  # nor was it during the look
-        assert not any(card.chosen for card in look.cards("mano").values()), "a key got through the pause"
+        assert not look.chosen("mano"), "a key got through the pause"
     box = wait(running.box, "the refusal")
     if box.texts() == [ZARPEL]:  # the computer took all; a box drops what was struck before it came
         deal.read(box)
-        assert chosen(deal.next(), 0), "a key got through the box"
+        assert not deal.next().chosen("mano"), "a key got through the box"
         return
     # 3 is refused since 2 came before it.
     running.answer("Zarpel", "SELECCIONE SOLO UNA DE SUS CARTAS")
-    assert [place for place, card in deal.next().cards("mano").items() if card.chosen] == [2]
+    assert deal.next().chosen("mano") == [2]
     keys("2")
-    running.table("the card to be lowered", lambda table: chosen(table, 0))
+    running.table("the card to be lowered", lambda table: not table.chosen("mano"))
 
 
 def main():

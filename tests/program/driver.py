@@ -35,6 +35,11 @@ def wait(condition, what, seconds=DEADLINE):
         time.sleep(0.02)
 
 
+def number(card):
+    """Of a card by its name."""
+    return int(card.split()[0])
+
+
 class Node:
     """What the accessibility bus says of a widget."""
 
@@ -44,7 +49,7 @@ class Node:
         self.role = accessible.get_role()
         states = accessible.get_state_set()
         self.active = states.contains(Atspi.StateType.ACTIVE)
-        self.chosen = states.contains(Atspi.StateType.CHECKED)
+        self.checked = states.contains(Atspi.StateType.CHECKED)
         at = accessible.get_extents(Atspi.CoordType.SCREEN)
         self.middle = (at.x + at.width // 2, at.y + at.height // 2)
         self.corner = (at.x + 3, at.y + 3)
@@ -67,16 +72,16 @@ class Table(Node):
     """The main window at one moment."""
 
     def cards(self, row):
-        """The cards of "mesa", "mano" or "cpu" by place, from 1; each has `number`, `chosen` and `middle`."""
-        found = {}
-        for node in self.all():
-            if card := re.fullmatch(rf"(?:(\d+) de \w+|carta tapada), {row} (\d)", node.name or ""):
-                node.number = int(card[1]) if card[1] else None
-                found[int(card[2])] = node
-        return found
+        """The cards of "mesa" or "mano" by place, from 1."""
+        return {int(node.name[-1]): node for node in self.all()
+                if re.fullmatch(rf"\d+ de \w+, {row} \d", node.name or "")}
 
     def lies(self):
-        return [{place: card.name for place, card in self.cards(row).items()} for row in ("mesa", "mano")]
+        """The names of the cards in the hand and on the table, by place."""
+        return [{place: card.name for place, card in self.cards(row).items()} for row in ("mano", "mesa")]
+
+    def chosen(self, row):
+        return [place for place, card in self.cards(row).items() if card.checked]
 
     def humans_turn(self):
         return any(text.startswith("Juega ") and text != "Juega Cpu" for text in self.texts())
@@ -84,10 +89,6 @@ class Table(Node):
     def area(self, depth):
         """The window's inside (1), the table in it (2), or the rectangle on that (3); no card lies on its corner."""
         return [node for node in self.all() if node.role == Atspi.Role.PANEL][depth - 1]
-
-    def points(self):
-        """The points in the match, the computer's and the player's."""
-        return tuple(int(text) for text in self.texts() if text.isdigit())[:2]
 
 
 class Game:
@@ -209,20 +210,16 @@ def desktop(size):
         yield
 
 
-def stand_still(folder):
-    """Tells all programs that this folder of settings is for that nothing shall glide."""
-    folder.mkdir()
-    (folder / "settings.ini").write_text("[Settings]\ngtk-enable-animations=0\n")
-
-
 @contextlib.contextmanager
 def game(program, damage=lambda folder: None):
-    """The program, started from a copy of its folder that `damage` may change."""
+    """The program, started from a copy of its folder that `damage` may change; no picture glides."""
     with tempfile.TemporaryDirectory() as parent:
         folder = pathlib.Path(parent, "zarpel")
         shutil.copytree(pathlib.Path(program).parent, folder)
         damage(folder)
         home = os.environ | {"HOME": parent, "XDG_CONFIG_HOME": parent}
-        stand_still(pathlib.Path(parent, "gtk-3.0"))
+        settings = pathlib.Path(parent, "gtk-3.0/settings.ini")
+        settings.parent.mkdir()
+        settings.write_text("[Settings]\ngtk-enable-animations=0\n")
         with running([folder / pathlib.Path(program).name], env=home) as process:
             yield Game(process, folder)
