@@ -73,7 +73,10 @@ bool FitsWhole(const QString& text, const Label& label) {
 }
 
 FittedText ShortenPath(const QString& path, const QFont& font, int width) {
-    return {font, QFontMetrics(font).elidedText(path, Qt::ElideMiddle, width)};
+    const QFontMetrics metrics(font);
+    // The toolkit would shorten what sticks out by a part of a pixel.
+    if (metrics.horizontalAdvance(path) <= width) return {font, path};
+    return {font, metrics.elidedText(path, Qt::ElideMiddle, width)};
 }
 
 }  // namespace zarpel
