@@ -81,16 +81,22 @@ TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
     }
 }
 
-// A file changed by hand can leave five cards to deal, which are two for who deals last.
-TEST(Reparto, LeavesPlacesBareWhenTheStockEnds) {
-    Table table;
-    table.Lay({}, {}, {});
-    for (int i = 6; i <= 40; ++i) Naipes->aMazo_Duenio(i, "player1");
-    Naipes->aPrimermano(false);
-    table.GiveMoveTo(Jugador::Humano);
-    EXPECT_TRUE(table.Window.cartap2img[1].Visible);
-    EXPECT_FALSE(table.Window.cartap2img[2].Visible);
-    EXPECT_EQ(Naipes->Repartidas(), 40) << "the deal ends with these cards";
+// A file changed by hand can leave fewer cards than two hands take, or a count that ends before the stock.
+TEST(Reparto, LeavesPlacesBareWhenTheCardsEnd) {
+    const struct {
+        int Stock, Dealt;
+    } cases[] = {{5, 10}, {40, 36}};
+    for (const auto& c : cases) {
+        Table table;
+        table.Lay({}, {}, {});
+        for (int i = c.Stock + 1; i <= 40; ++i) Naipes->aMazo_Duenio(i, "player1");
+        Naipes->aPrimermano(false);
+        Naipes->aRepartidas(static_cast<std::int16_t>(c.Dealt));
+        table.GiveMoveTo(Jugador::Humano);
+        EXPECT_TRUE(table.Window.cartap2img[1].Visible);
+        EXPECT_FALSE(table.Window.cartap2img[2].Visible) << "dealt to last";
+        EXPECT_GE(Naipes->Repartidas(), 40) << "the deal ends with these cards";
+    }
 }
 
 // Wherever on a full table the only card lies that makes 15.

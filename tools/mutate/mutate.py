@@ -21,7 +21,7 @@ PROJECT = pathlib.Path(__file__).resolve().parents[2]
 HIDDEN = re.compile(r'//[^\n]*|#include[^\n]*|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\])+\'')
 SWAPPED = {"==": "!=", "!=": "==", "<": "<=", "<=": "<", ">": ">=", ">=": ">", "&&": "||", "||": "&&", "+=": "-=",
            "-=": "+=", "++": "--", "--": "++", "+": "-", "-": "+", "true": "false", "false": "true"}
-SETS = re.compile(r" *(?:const \w+&? )?(\S+ = |\w+->a[A-Z]\w*\()")
+SETS = re.compile(r" *(?:const \w+&? )?(\S+ = |\w+->a[A-Z]\w*\(|\w+\.emplace\(|\w+\([\w.]+,)")
 MEMORY = 4 << 30  # a change can make the game ask for more and more
 SECONDS = 120
 # Programs that ctest runs, too: what notices most, and is quick, comes first. Of the matches, the first suffice.
