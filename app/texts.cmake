@@ -1,8 +1,8 @@
 # What is said of the game outside it: in menus, software centres, packages, manual pages and by --help.
 set(ZARPEL_NAME "Zarpel")
 # The game has no site of its own: this name is one of those that are nobody's. Whoever gives it a site puts that here.
-set(ZARPEL_SITE "zarpel.example")
-set(ZARPEL_ID "example.zarpel.zarpel")
+set(ZARPEL_SITE "zarpel.example.org")
+set(ZARPEL_ID "org.example.zarpel")
 set(ZARPEL_MIME_TYPE "application/x-zarpel")
 set(ZARPEL_AUTHORS "The Zarpel authors")
 set(ZARPEL_RELEASED 1795392000)  # seconds since 1970: 23 November 2026
