@@ -144,7 +144,8 @@ class Game:
         if typed:
             xdotool("type", typed)
         click(box.find(button)) if button else keys("Return")
-        wait(lambda: self.ended() or not (last or self.is_open(box)), f'the end of the box "{title}: {text}"')
+        gone = lambda: self.process.poll() is not None or not (last or self.is_open(box))
+        wait(gone, f'the end of the box "{title}: {text}"')
 
     def is_open(self, box):
         now = self.box()
@@ -155,9 +156,6 @@ class Game:
         opened = lambda node: node.active and node.find(entry, Atspi.Role.MENU_ITEM)
         lists = lambda: (opened(node) for node in self.table().all() if node.role == Atspi.Role.POPUP_MENU)
         click(wait(lambda: next(filter(None, lists()), None), f'the entry "{entry}"'))
-
-    def ended(self):
-        return self.process.poll() is not None
 
 
 def xdotool(*words):

@@ -40,6 +40,13 @@ with desktop("1280x800"):
         playing.choose("Archivo", "Guardar")
         playing.answer("Guardar", typed="partida")
         wait((HOME / "partida.zrp").is_file, "the saved match")
+        deal.move(saved)
+        assert deal.next().lies() != saved.lies()
+        playing.choose("Archivo", "Abrir")
+        playing.answer("Nuevo Jugador", "Esta accion", "Sí")
+        playing.answer("Abrir")  # the name last chosen stands in the dialog
+        wait(lambda: deal.next().lies() == saved.lies(), "the saved table")
+        deal.move(saved)
     with game("partida.zrp") as playing:
         opened = playing.table("the saved table", lambda table: table.humans_turn() and table.lies() == saved.lies())
         assert opened.texts().count("Lola") == 2, opened.texts()

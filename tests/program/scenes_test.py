@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Scenes of the real program: what a player meets besides the moves of a deal.
 
-    tests/program/scenes_test.py build/zarpel/zarpel damage|waiting|match|command
+    tests/program/scenes_test.py build/zarpel/zarpel damage|waiting|command
 """
 import pathlib
 import sys
@@ -37,25 +37,6 @@ def waiting(program):
         keys("alt+F4")
         running.answer("Zarpel", "CHAU!", last=True)
         assert running.process.wait(10) == 0
-
-
-def match(program):
-    """Saves, plays on, opens what was saved, plays on from there."""
-    with game(program) as running:
-        deal = Deal(running)
-        deal.move(deal.next())
-        saved = deal.next()
-        running.choose("Archivo", "Guardar")
-        running.answer("Guardar", typed="partida")
-        wait((running.folder.parent / "partida.zrp").is_file, "the saved match")
-        deal.move(deal.next())
-        assert deal.next().lies() != saved.lies()
-        running.choose("Archivo", "Abrir")
-        running.answer("Nuevo Jugador", "Esta accion terminara con el juego actual", "Sí")
-        running.answer("Abrir")  # the name last chosen stands in the dialog
-        wait(lambda: deal.next().lies() == saved.lies(), "the saved table")
-        deal.move(deal.next())
-        deal.next()
 
 
 def command(program):

@@ -1,7 +1,10 @@
-// What the windows paint.
+// What the windows paint, and what a screen reader finds in them and is told.
 #include <sys/stat.h>
 
+#include <QAccessible>
 #include <QFontMetrics>
+#include <algorithm>
+#include <iterator>
 
 #include "qt/files.h"
 #include "qt/fonts.h"
@@ -11,6 +14,20 @@ namespace zarpel {
 namespace {
 
 using LooksTest = QtTable;
+using Names = std::vector<std::string>;
+
+// The names of the cards at and below `node`; "*" marks a selected one.
+Names CardsOf(QAccessibleInterface* node) {
+    const std::string name = node->text(QAccessible::Name).toStdString();
+    if (node->role() == QAccessible::CheckBox) return {(node->state().checked ? "* " : "") + name};
+    if (node->role() == QAccessible::Graphic) return {name};
+    Names names;
+    for (int i = 0; i < node->childCount(); ++i) {
+        EXPECT_EQ(node->indexOfChild(node->child(i)), i);
+        std::ranges::copy(CardsOf(node->child(i)), std::back_inserter(names));
+    }
+    return names;
+}
 
 TEST_F(LooksTest, NoNicknameIsCutOff) {
     for (const char* const name : {"Maximiliano", "Hermenegildo Bustamante y Larreta-Uriarte"}) {
@@ -28,26 +45,36 @@ TEST_F(LooksTest, NoNicknameIsCutOff) {
             EXPECT_GT(metrics.capHeight(), 2);
         }
     }
-    // Nobody can read two hundred letters in the width of a card; the tooltip has them all.
-    const QString letters(200, 'm');
-    Game.Label2.Caption = "<b>" + letters.toStdString();
-    QCoreApplication::processEvents();
-    const auto& view = ViewOf<LabelView>(Game.Label2);
-    EXPECT_EQ(view.toolTip(), "<p>&lt;b&gt;" + letters + "</p>");
-    const FittedText fitted = FitText(view.text(), view.font(), view.size(), false);
-    EXPECT_TRUE(fitted.Text.startsWith("<b>mm") && fitted.Text.endsWith("…"));
-    EXPECT_LE(QFontMetrics(fitted.Font).horizontalAdvance(fitted.Text), view.width());
 }
 
-TEST_F(LooksTest, PaintsTheCardsOnTheTable) {
-    LayCards(Game, {Card(7, 'o')}, {}, {Card(3, 'b')});
-    Game.Frame1.BackColor = Rgb(40, 50, 60);
-    const QImage picture = Window().grab().toImage();
-    const auto colorAt = [&picture](const QPoint& at) { return picture.pixelColor(at); };
-    const QPoint corner = ViewOf<ImageView>(Game.mesaimg[0]).mapTo(&Window(), QPoint());
-    EXPECT_EQ(colorAt(Middle(Game.mesaimg[0])), ColorOfCard(Card(7, 'o')));
-    for (const QPoint& bare : {corner, Middle(Game.mesaimg[1])}) EXPECT_EQ(colorAt(bare), QColor(40, 50, 60));
-    EXPECT_GT(colorAt(Middle(Game.fondop1img[0])).blue(), 240);  // of the JPEG picture
+TEST_F(LooksTest, TheTreeHoldsTheShownCardsAndNoHiddenOne) {
+    LayCards(Game, {Card(7, 'o'), 0, Card(1, 'c')}, {0, Card(10, 'e')}, {Card(3, 'b'), 0, Card(4, 'b')});
+    // Between its move and the next one the computer's card is gone and its back is still there.
+    Game.cartap1img[0].Visible = false;
+    const auto accessible = [](Image& image) {
+        return QAccessible::queryAccessibleInterface(&ViewOf<ImageView>(image));
+    };
+    accessible(Game.mesaimg[0])->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    const auto shown = [this] {
+        QCoreApplication::processEvents();
+        return CardsOf(QAccessible::queryAccessibleInterface(&Window()));
+    };
+    EXPECT_EQ(shown(), (Names{"* 7 de oro, mesa 1", "1 de copa, mesa 3", "carta tapada, cpu 1",
+                              "10 de espada, mano 2", "carta tapada, cpu 3"}));
+    // A name is told when it is set, so a card gets it when the computer turns it up.
+    EXPECT_EQ(ViewOf<ImageView>(Game.cartap1img[2]).accessibleName().indexOf("4 de basto"), -1);
+    Game.fondop1img[2].Visible = false;
+    EXPECT_EQ(shown().back(), "4 de basto, cpu 3");
+    EXPECT_TRUE(accessible(Game.fondop1img[0])->actionInterface()->actionNames().isEmpty());
+}
+
+// A screen reader is told what stands when the event is over, not what was tried meanwhile.
+TEST_F(LooksTest, ACaptionIsToldOnceTheEventIsOver) {
+    const auto& view = ViewOf<LabelView>(Game.SumandoLbl);
+    const QString before = view.text();
+    Game.SumandoLbl.Caption = "15";
+    EXPECT_EQ(view.text(), before);
+    QTRY_COMPARE(view.text(), "15");
 }
 
 TEST(PictureFiles, AreReadByWhatTheyHoldOnceAndScaledCrisply) {
