@@ -10,13 +10,12 @@ import re
 import sys
 
 from ear import listening
-from deal_test import LETTERS, capture
+from deal_test import LETTERS, NEWS, capture
 from driver import game, keys, number
 
 CARD = r"\d+ de \w+"
 CARDS = rf"{CARD}(?:(?:, | y ){CARD})*"
 WHO = r"(La Cpu|Humano)"
-BOXES = "¡¡¡ZARPEL!!!|La mesa está llena|Ninguno de los dos"
 WITHOUT_TRACE = r"Juega Humano|Se reparten tres cartas|Fin de la vuelta|.* pasa|\w+: Cpu \d+, Humano \d+"
 COUNTED = {"Cartas": " de ", "Oros": " de oro", "Sietes": "7 de ", "Velo": "7 de oro", "Zarpel": "zarpel"}
 
@@ -59,7 +58,7 @@ class Deal:
 
     def next(self):
         """Hears all until the player is to move, and gives nothing, or until the count, and gives that."""
-        turn = rf"(?:^notificación )?(.*Juega Humano\.|.*Cartas: Cpu .*)$|{BOXES}"
+        turn = rf"(?:^notificación )?(.*Juega Humano\.|.*Cartas: Cpu .*)$|{'|'.join(NEWS)}"
         while not (said := self.ear.hear(turn))[1]:
             keys("Return")
         for sentence in re.findall(r"[^.]+(?=\.)", said[1]):
@@ -115,7 +114,7 @@ def main():
         deal.check(count)
         keys("Return")
         ear.hear(r"Puntos: Cpu \d+, Humano \d+\. Reparte .* Mesa.* Mano: .* Juega Humano\.")
-        print(*ear.lines(), sep="\n")
+        print(*ear.heard, sep="")
 
 
 if __name__ == "__main__":

@@ -32,41 +32,36 @@ GenericDelimiters "|"
 class Ear:
     def __init__(self, log):
         self.log = log
-        self.read = 0
-
-    def lines(self):
-        return self.log.read_text(encoding="utf-8").splitlines()
+        self.heard = []
 
     def hear(self, pattern):
         """Waits for a text that was said to its end and holds the pattern, after the last one heard; gives the match."""
         def look():
-            for at, line in enumerate(self.lines()[self.read:], self.read + 1):
+            for line in self.log:
+                self.heard.append(line)
                 if found := re.search(pattern, line):
-                    self.read = at
                     return found
             return None
         try:
             return wait(look, f'"{pattern}"')
         except AssertionError:
-            print(*self.lines()[-20:], sep="\n", file=sys.stderr)
+            print(*self.heard[-20:], sep="", file=sys.stderr)
             raise
 
 
 @contextlib.contextmanager
 def listening():
     """A display with Orca, for all programs started meanwhile; gives the ear that hears it."""
-    with tempfile.TemporaryDirectory() as folder:
+    with tempfile.TemporaryDirectory() as folder, tempfile.NamedTemporaryFile("r", encoding="utf-8") as said:
         home = pathlib.Path(folder)
-        log = home / "said"
-        log.touch()
         (home / "run").mkdir(mode=0o700)
         speech = home / ".config/speech-dispatcher"
         (speech / "modules").mkdir(parents=True)
-        (speech / "modules/voice.conf").write_text(VOICE.format(log))
+        (speech / "modules/voice.conf").write_text(VOICE.format(said.name))
         (speech / "speechd.conf").write_text(SPEECH)
         os.environ |= {"HOME": folder, "XDG_RUNTIME_DIR": str(home / "run"), "LC_ALL": "es_ES.UTF-8"}
         quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
         with desktop("1366x768"), running(["orca", "--replace"], **quiet):
-            ear = Ear(log)
+            ear = Ear(said)
             ear.hear("Lector de pantalla")
             yield ear

