@@ -1,7 +1,8 @@
 # Steps shared by run, test and .ci/run; sourced by them, from the project's folder. Each step that is done already is
 # skipped.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libchm-dev fp-utils)
+# With dpkg-dev and file the .deb learns what it depends on.
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libchm-dev fp-utils dpkg-dev file)
 # The fonts that the windows' fonts are mapped to: a bare system has none.
 game_packages=(fonts-liberation fonts-dejavu-core fonts-urw-base35)
 test_packages=(libgtest-dev xvfb openbox xdotool dbus at-spi2-core python3-pyatspi xauth)
