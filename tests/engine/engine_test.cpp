@@ -83,9 +83,7 @@ TEST(Paso, OfAPlayerWithoutCardsIsSilent) {
 
 // A file changed by hand can leave fewer cards than two hands take, or a count that ends before the stock.
 TEST(Reparto, LeavesPlacesBareWhenTheCardsEnd) {
-    const struct {
-        int Stock, Dealt;
-    } cases[] = {{5, 10}, {40, 36}};
+    const struct { int Stock, Dealt; } cases[] = {{5, 10}, {40, 36}};
     for (const auto& c : cases) {
         Table table;
         table.Lay({}, {}, {});
