@@ -86,11 +86,11 @@ void Expect(Opened (*open)(const std::string&), const std::string& file, const L
 
 TEST(Archivos, OfPreferencesAreWrittenByteForByte) {
     Table table;
-    Naipes->aNombrejugador("Íñigo \"el €\"\r\nzurdo");
+    Naipes->aNombrejugador("\r\nÍñigo \"el €\"\r\nzurdo");
     table.Window.fondop1img[0].Tag = "C:\\cartas\\dorso.jpg";
     table.Window.Frame1.BackColor = SystemColor(Palette::ButtonFace);
     EXPECT_EQ(SavedPreferences(table),
-              "\"\xCD\xF1igo 'el \x80' zurdo\"\r\n\"Click Here\"\r\n32768\r\n-2147483633\r\n"
+              "\" \xCD\xF1igo 'el \x80' zurdo\"\r\n\"Click Here\"\r\n32768\r\n-2147483633\r\n"
               "\"C:\\cartas\\dorso.jpg\"\r\n");
     Naipes->aNombrejugador("Łukasz");  // not in the code page
     EXPECT_TRUE(SavedPreferences(table).starts_with("\xEF\xBB\xBF\"Łukasz\"\r\n"));

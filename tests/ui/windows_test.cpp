@@ -56,7 +56,7 @@ class Description : public ControlVisitor {
             Text(Quoted(c.Caption), " ", font.Family, " ", font.Points, If(font.Bold, " bold"), ", ",
                  Color(c.ForeColor), If(c.Opaque, " on " + Color(c.BackColor)),
                  sides[static_cast<int>(c.Align.get())], If(c.WordWrap, " wraps"), If(c.Border, " framed"),
-                 If(c.AutoSize, Text(" grows to ", c.MaxWidth)),
+                 If(c.IsPath, " a path"), If(c.AutoSize, Text(" grows to ", c.MaxWidth)),
                  If(!c.SpokenAs.empty(), " called" + Quoted(c.SpokenAs))));
     }
     void Visit(Button& c) override {
