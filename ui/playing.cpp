@@ -11,7 +11,7 @@ void Playing::Load() {
     Form_Load();
 }
 
-void Playing::UbicaArchivoNaipes() { ArchivoNaipes = desktop_.Folder() + "\\naipe.dat"; }
+void Playing::UbicaArchivoNaipes() { ArchivoNaipes = desktop_.PathOf("naipe.dat"); }
 
 void Playing::Form_Load() {
     UbicaArchivoNaipes();

@@ -60,7 +60,7 @@ void Playing::salir_Click() {
     desktop_.Show({.Text = "CHAU!"});
 }
 
-void Playing::contenidosmnu_Click() { desktop_.OpenHelp(desktop_.Folder() + "\\ayuda.chm"); }
+void Playing::contenidosmnu_Click() { desktop_.OpenHelp(desktop_.PathOf("ayuda.chm")); }
 
 void Playing::acercamnu_Click() {
     Aboutboxfrm acerca(desktop_);

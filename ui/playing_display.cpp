@@ -37,7 +37,7 @@ void Playing::EmprolijaDesktop() {
 // Each file is tried once: after a failure the rest is loaded from the game's own picture, and when that
 // fails too the backs keep the picture built into the program.
 void Playing::CargaDorsos() {
-    const std::string propio = desktop_.Folder() + "\\dibujo.jpg";
+    const std::string propio = desktop_.PathOf("dibujo.jpg");
     std::string dorso = fondop1img[0].Tag;
     if (dorso.empty()) dorso = propio;
     if (!desktop_.LoadPicture(dorso)) {

@@ -29,7 +29,7 @@ Fields Playing::Preferencias() {
             PropertyField(fondop1img[0].Tag)};  // path of the card backs' picture
 }
 
-void Playing::SaveProperty() { SaveFile(desktop_, desktop_.Folder() + "\\lastprop.dat", Preferencias()); }
+void Playing::SaveProperty() { SaveFile(desktop_, desktop_.PathOf("lastprop.dat"), Preferencias()); }
 
 void Playing::LoadProperty(const std::string& fichero) {
     if (LoadFile(desktop_, fichero, Preferencias())) return;

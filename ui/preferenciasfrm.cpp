@@ -117,7 +117,7 @@ void preferenciasfrm::Label8_Click() {
 }
 
 void preferenciasfrm::Command1_Click() {
-    playing_.LoadProperty(desktop_.Folder() + "\\pordefecto.dat");
+    playing_.LoadProperty(desktop_.PathOf("pordefecto.dat"));
     ValoresActuales();
 }
 
