@@ -6,7 +6,8 @@
 // event gate of that window (event_gate.h), for the start is an event like any other. Only one `Playing` may
 // live at a time: the records of the match are the program's own. Load() shows the window by Show(Form&),
 // after all its controls and events are set; opening a saved match calls Load() again on the same, shown
-// form, which then puts every control back to its design state.
+// form, which then puts every control back to its design state. A front end that reads its input only when no
+// handler runs, as from a terminal, has no need of a gate.
 //
 // Everything happens on one thread, and one event of a form at a time: the next is handed over when the
 // handler has returned. Calls marked "blocks" return when the player has answered or the time is
@@ -79,13 +80,14 @@ class Desktop {
     // preselected; where Yes is, only a button closes it. Keys and clicks that waited for the end of a pause
     // are dropped: they were meant for a table without the box's news.
     virtual Answer Show(const Message& message) = 0;
-    // Asks for a line of text; gives the text typed, or an empty one when cancelled. It takes no more letters
-    // than the label `shownBy` can show whole when its window is at its smallest: only the desktop knows how
-    // wide they are.
+    // Asks for a line of text, which is `proposed` to begin with; gives the text typed, or an empty one when
+    // cancelled. It takes no more letters than the label `shownBy` can show whole when its window is at its
+    // smallest: only the desktop knows how wide they are.
     virtual std::string InputBox(const std::string& prompt, const std::string& title,
                                  const std::string& proposed, const Label& shownBy) = 0;
     // Ask for a file to open or to write (asking before one is replaced). True: the player chose one, and
-    // `dialog.FileName` is its full path. False: cancelled, and `dialog` is unchanged.
+    // `dialog.FileName` is its full path, as PathForTheGame (paths.h) writes it. False: cancelled, and
+    // `dialog` is unchanged.
     virtual bool ShowOpen(ChooserState& dialog) = 0;
     virtual bool ShowSave(ChooserState& dialog) = 0;
     // Asks for a colour, beginning with `dialog.Color`. True: chosen, and stored there. False: cancelled.

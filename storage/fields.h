@@ -15,7 +15,9 @@ namespace zarpel {
 
 struct Field {
     std::function<void(ValueWriter&)> Save;
-    std::function<bool(ValueReader&)> Load;  // false: the file has no such value here, and nothing changed
+    // False: the file has no such value here, nothing changed, and the file counts as damaged. So a field
+    // that older files lack gives true then.
+    std::function<bool(ValueReader&)> Load;
 };
 using Fields = std::vector<Field>;
 
