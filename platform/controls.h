@@ -107,8 +107,9 @@ class Image : public Control {
     // Path of the picture file, once Desktop::LoadPicture has taken it; a path that begins with ":/" is one
     // of the pictures built into the program. Empty: nothing is drawn.
     Property<std::string> Picture{*this};
-    Property<int> Corner{*this};      // radius of the rounded corners
-    Property<bool> Draggable{*this};  // a drag starts when the pointer is pressed and moved on it
+    Property<int> Corner{*this};  // radius of the rounded corners
+    // A drag starts when the pointer is pressed and moved on it. The game is never given another one dropped.
+    Property<bool> Draggable{*this};
     // Hints for a front end that shows how things move: by which edge the picture that the control is given
     // comes in, and by which the one that it had goes off. They hold for the change at hand; the front end
     // takes them back once it has seen that.
