@@ -4,9 +4,9 @@ import contextlib
 import os
 import pathlib
 import re
-import subprocess
 import sys
 import tempfile
+from subprocess import DEVNULL
 
 sys.path.append(str(pathlib.Path(__file__).parents[1] / "program"))
 from driver import desktop, running, wait  # noqa: E402
@@ -60,8 +60,7 @@ def listening():
         (speech / "modules/voice.conf").write_text(VOICE.format(said.name))
         (speech / "speechd.conf").write_text(SPEECH)
         os.environ |= {"HOME": folder, "XDG_RUNTIME_DIR": str(home / "run"), "LC_ALL": "es_ES.UTF-8"}
-        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
-        with desktop("1366x768"), running(["orca", "--replace"], **quiet):
+        with desktop("1366x768"), running(["orca", "--replace"], stdout=DEVNULL, stderr=DEVNULL):
             ear = Ear(said)
             ear.hear("Lector de pantalla")
             yield ear

@@ -151,7 +151,9 @@ TEST_F(InputTest, WhatComesWhileAHandlerRunsIsHandedOverAfterwardsInOrder) {
         ViewOf<ImageView>(Game.cartap2img[2]).Press();
         ViewOf<ImageView>(Game.mesaimg[1]).Press();
         Window().close();
+        const QDeadlineTimer over(60, Qt::PreciseTimer);
         Desktop.QtDesktop::Pause(60);
+        EXPECT_TRUE(over.hasExpired());
         sums.push_back(Game.Suma());
     };
     InBox([&](QWidget& box) {  // the farewell of the window that was closed last
