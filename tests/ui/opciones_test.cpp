@@ -68,6 +68,8 @@ TEST(Opciones, KeepsEveryChoiceOnAcceptingAndNoneOtherwise) {
                 std::function<void()>* const parts[] = {&dialog.Label1.Click, &dialog.Label6.Click,
                                                         &dialog.Label5.Click, &dialog.Label8.Click,
                                                         &dialog.Frame3.Click};
+                dialog.Form_KeyDown(kKeyTab, kCtrl);
+                EXPECT_EQ(dialog.picOptions[0].Left, 210) << "after the last page comes the first";
                 for (const Part part : choice.Clicks) (*parts[part])();
                 EXPECT_EQ(Of(dialog), choice.Then);
                 EXPECT_EQ(Of(table.Window), Values{});

@@ -22,6 +22,7 @@ HIDDEN = re.compile(r'//[^\n]*|#include[^\n]*|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\
 SWAPPED = {"==": "!=", "!=": "==", "<": "<=", "<=": "<", ">": ">=", ">=": ">", "&&": "||", "||": "&&", "+=": "-=",
            "-=": "+=", "++": "--", "--": "++", "+": "-", "-": "+", "true": "false", "false": "true"}
 SETS = re.compile(r" *(?:const \w+&? )?(\S+ = |\w+->a[A-Z]\w*\(|\w+\.emplace\(|\w+\([\w.]+,)")
+NAMES = re.compile(r" *(?:(?:const|static|constexpr) |[\w:]+& )")
 MEMORY = 4 << 30  # a change can make the game ask for more and more
 SECONDS = 120
 # Programs that ctest runs, too: what notices most, and is quick, comes first. Of the matches, the first suffice.
@@ -43,9 +44,12 @@ def statements(code):
 
 
 def apart(one, other):
-    """Do they give two different things values? Then their order says nothing."""
+    """Do the statements have nothing to do with each other? Then their order says nothing: they give two different
+    things values, or at least one only gives something a name, and the other does no more or leaves the function."""
     sets = SETS.match(one), SETS.match(other)
-    return all(sets) and sets[0][1] != sets[1][1]
+    names = [bool(NAMES.match(statement)) for statement in (one, other)]
+    leaves = re.match(r" *if \(.*\) return\b", one) or re.match(r" *if \(.*\) return\b", other)
+    return all(sets) and sets[0][1] != sets[1][1] or all(names) or any(names) and leaves
 
 
 def changes(text):
