@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <cstdio>
+#include <cstdlib>
 
 #include "app/command_line.h"
 #include "qt/qt_desktop.h"
@@ -9,7 +10,15 @@
 
 namespace {
 
-constexpr int kWrongUse = 2;  // exit status
+constexpr int kNoDisplay = 1, kWrongUse = 2;  // exit status
+
+// Where there is no display, the toolkit ends the program, with advice for those who made it.
+void TellOrLeave(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
+    const bool fatal = type == QtFatalMsg;
+    std::fprintf(stderr, "%s\n",
+                 fatal ? "Zarpel no encuentra una pantalla donde mostrarse." : qPrintable(text));
+    if (fatal) std::_Exit(kNoDisplay);
+}
 
 QString FullPath(const std::string& path) {
     return QFileInfo(QString::fromLocal8Bit(path)).absoluteFilePath();
@@ -23,6 +32,7 @@ int main(int argc, char** argv) {
         std::fputs(line.Answer.c_str(), line.Wrong ? stderr : stdout);
         return line.Wrong ? kWrongUse : 0;
     }
+    qInstallMessageHandler(TellOrLeave);
     int noMoreWords = 1;  // the toolkit would take some for its own
     QApplication::setApplicationName(QStringLiteral("Zarpel"));
     QApplication::setDesktopFileName(QStringLiteral("zarpel"));  // by it the desktop finds name and icon

@@ -27,6 +27,7 @@ alike=$(find "$stage/usr" -name '*.[jp][pn]g' -exec sha256sum {} + | sort | uniq
 before=$(installed)
 [ "$("${player[@]}" "$zarpel" --version)" = "Zarpel 1.0" ] || fail "it does not tell its version"
 "${player[@]}" "$zarpel" --help | grep -q "Uso: zarpel" || fail "it does not tell how it is called"
+("${player[@]}" "$zarpel" 2>&1 || true) | grep -q "no encuentra una pantalla" || fail "it does not say why no window comes"
 for words in --nada "una.zrp otra.zrp"; do
     # shellcheck disable=SC2086
     error=$("${player[@]}" "$zarpel" $words 2>&1 >/dev/null) && fail "it takes $words"
