@@ -36,17 +36,24 @@ class Bytes : public QBuffer {
     bool cutOff_ = false;
 };
 
+constexpr char kMark = '\xFF';
+
+// Of a JPEG file: where the next mark begins, or -1. Any number of its first byte may fill the way.
+qsizetype NextMark(const QByteArray& file, qsizetype from) {
+    qsizetype at = file.indexOf(kMark, from);
+    while (at >= 0 && at + 1 < file.size() && file[at + 1] == kMark) ++at;
+    return at;
+}
+
 // A JPEG file that was cut off would be shown grey from there on.
 bool IsWholeJpeg(const QByteArray& file) {
-    constexpr char kMark = '\xFF';
-    constexpr uchar kFirstRestart = 0xD0, kLastRestart = 0xD7, kEnd = 0xD9, kScan = 0xDA, kNone = 0xFF;
+    constexpr uchar kFirstRestart = 0xD0, kLastRestart = 0xD7, kEnd = 0xD9, kScan = 0xDA;
     int scans = 0;
-    for (qsizetype at = file.indexOf(kMark, 2); at >= 0 && at + 2 <= file.size();
-         at = file.indexOf(kMark, at)) {
+    for (qsizetype at = NextMark(file, 2); at >= 0 && at + 2 <= file.size(); at = NextMark(file, at)) {
         const auto kind = static_cast<uchar>(file[at + 1]);
         if (kind == kEnd) return true;
         if (kind == kScan && ++scans > kMostScans) return false;
-        const bool bare = kind <= 1 || kind == kNone || (kind >= kFirstRestart && kind <= kLastRestart);
+        const bool bare = kind <= 1 || (kind >= kFirstRestart && kind <= kLastRestart);
         if (!bare && at + 4 > file.size()) return false;
         at += bare ? 1 : 2 + qFromBigEndian<quint16>(file.constData() + at + 2);
     }
