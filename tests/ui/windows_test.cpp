@@ -117,6 +117,7 @@ TEST(Windows, HoldWhatTheirTablesSay) {
     table.Lay({3, 15, 0, 0, 0, 0, 0, 40}, {0, 27}, {20});
     table.Window.CheckMesa[7].Value = 1;
     ExpectAsInTable("playing", table.Window);
+    EXPECT_EQ(table.Window.Frame1.DropPlace(), &table.Window.mesaimg[2]) << "the first that is free";
     Resultadosfrm resultados(table.Desktop);
     ExpectAsInTable("resultados", resultados);
     preferenciasfrm opciones(table.Desktop, table.Window);

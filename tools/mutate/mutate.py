@@ -21,8 +21,12 @@ PROJECT = pathlib.Path(__file__).resolve().parents[2]
 HIDDEN = re.compile(r'//[^\n]*|#include[^\n]*|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\])+\'')
 SWAPPED = {"==": "!=", "!=": "==", "<": "<=", "<=": "<", ">": ">=", ">=": ">", "&&": "||", "||": "&&", "+=": "-=",
            "-=": "+=", "++": "--", "--": "++", "+": "-", "-": "+", "true": "false", "false": "true"}
+# What one statement does, by which another can be told not to mind it.
 SETS = re.compile(r" *(?:const \w+&? )?(\S+ = |\w+->a[A-Z]\w*\(|\w+\.emplace\(|\w+\([\w.]+,)")
-NAMES = re.compile(r" *(?:(?:const|static|constexpr) |[\w:]+& )")
+NAMES = re.compile(r" *(?:(?:const|static|constexpr) |[\w:]+& |\w+ \w+ = (?:true|false|\d+);)")
+LEAVES = re.compile(r" *if \(.*\) return\b")
+OBJECTS = re.compile(r"(?<![\w.>:])(?!(?:const|for|if|int|bool|auto|return|true|false|std|Image)\b)[a-zA-Z]\w*\b(?!::)")
+CALLS = re.compile(r"(?<![\w.>:])[A-Z]\w*\(")  # an operation of its own class, which can do anything
 MEMORY = 4 << 30  # a change can make the game ask for more and more
 SECONDS = 120
 # Programs that ctest runs, too: what notices most, and is quick, comes first. Of the matches, the first suffice.
@@ -44,12 +48,13 @@ def statements(code):
 
 
 def apart(one, other):
-    """Do the statements have nothing to do with each other? Then their order says nothing: they give two different
-    things values, or at least one only gives something a name, and the other does no more or leaves the function."""
-    sets = SETS.match(one), SETS.match(other)
-    names = [bool(NAMES.match(statement)) for statement in (one, other)]
-    leaves = re.match(r" *if \(.*\) return\b", one) or re.match(r" *if \(.*\) return\b", other)
-    return all(sets) and sets[0][1] != sets[1][1] or all(names) or any(names) and leaves
+    """Do the statements have nothing to do with each other? Then their order says nothing."""
+    pair = one, other
+    sets, names, leaves = ([pattern.match(statement) for statement in pair] for pattern in (SETS, NAMES, LEAVES))
+    if all(sets) and sets[0][1] != sets[1][1] or all(names) or any(names) and any(leaves):
+        return True
+    words = [set(OBJECTS.findall(blank(statement))) for statement in pair]
+    return not (words[0] & words[1] or any(map(CALLS.search, pair)) or any(leaves))
 
 
 def changes(text):
