@@ -63,6 +63,9 @@ TEST_F(Window, ContentsLinksAndHistoryLeadFromPageToPage) {
     EXPECT_EQ(Shown() + " " + Entry(), "chm:/mensajes.html#preguntas Cómo se maneja");
     page.setSource(QUrl("zarpel.html"));
     EXPECT_EQ(Shown() + " " + Entry(), "chm:/zarpel.html El zarpel");
+    for (const QWidget* const widget : std::initializer_list<QWidget*>{&contents, &page, &searchText}) {
+        EXPECT_FALSE(widget->accessibleName().isEmpty());
+    }
 }
 
 TEST_F(Window, NothingOutsideTheFileIsFollowedOrLoaded) {

@@ -45,6 +45,12 @@ TEST_F(LooksTest, NoNicknameIsCutOff) {
             EXPECT_GT(metrics.capHeight(), 2);
         }
     }
+    for (int pixels = 5; pixels < 60; ++pixels) {
+        QFont font(Window().font());
+        font.setPixelSize(pixels);
+        const QString path = QStringLiteral("Click Here");
+        EXPECT_EQ(ShortenPath(path, font, NaturalSize(path, font).width()).Text, path) << pixels;
+    }
 }
 
 TEST_F(LooksTest, TheTreeHoldsTheShownCardsAndNoHiddenOne) {
