@@ -105,13 +105,13 @@ void Mesa::Inicia() {
     namelbl.Caption = Naipes->Nombrejugador();
     Label2.Caption = Naipes->Nombrejugador();
     Naipes->Setnaipe(Naipes->CantCartas());
+    MuestraVentana();  // pictures take longer to read than a window to come
     CargaDorsos();
     DecideTurno();
 }
 
 void Mesa::DecideTurno() {
     EmprolijaDesktop();
-    MuestraVentana();
     if (Naipes->Primermano()) EmpiezaReparto(*this);
     if (ManosVacias(*this)) {
         if (Naipes->Repartidas() >= Naipes->CantCartas()) {
