@@ -138,7 +138,7 @@ TEST(Partida, LinesChangedByHandAreReadOrRefused) {
         {{{4, "\"41\""}}, {{4, "\"41\""}, {6, "#FALSE#"}}, Outcome::Refuses},
         {{{4, "\"\""}}, {{4, "\"\""}, {6, "#FALSE#"}}, Outcome::Refuses},
         {{{4, "\"7\""}}, {{4, "\"7\""}, {6, "#FALSE#"}}, Outcome::Refuses},  // its picture is gone
-        {{{34, "-32768"}}, {{34, "-32768"}}, Outcome::Opens},
+        {{{34, "-32768"}, {35, "32767"}}, {{34, "-32768"}, {35, "32767"}}, Outcome::Opens},
         {{{34, "-32769"}}, {{34, ""}}, Outcome::Stops},
         {{{34, "32768"}}, {{34, ""}}, Outcome::Stops},
         {{{40, "#TRUE#"}}, {{40, "#FALSE#"}}, Outcome::Opens},

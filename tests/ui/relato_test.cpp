@@ -59,6 +59,7 @@ TEST(Relato, TellsEveryMoveInOneTextWhenTheHumanIsToMove) {
 TEST(Relato, TellsWhoPassesAndHowADealEnds) {
     Table table;
     auto& told = table.Desktop.Announced;
+    EXPECT_TRUE(told.front().starts_with("Puntos: Cpu 0, Humano 0. Reparte Cpu. Mesa: 1, ")) << told.front();
     table.Lay(kLlena, {kOcho}, {Card(6, 'e')});
     table.GiveMoveTo(Jugador::Humano);
     EXPECT_EQ(told.back(), "Humano pasa. La Cpu toma 9 de espada con 6 de espada. Juega Humano.");
@@ -79,6 +80,9 @@ TEST(Relato, TellsWhoPassesAndHowADealEnds) {
     table.Lay({0, kSiete, 0, kTres}, {0, 0, kOcho}, {kRey});
     table.Window.CargarJuego(table.Window.GuardaJuego("a.zrp"));
     EXPECT_EQ(told.back(), "Mesa: 2, 7 de oro; 4, 3 de basto. Mano: 3, 8 de copa. Juega Humano.");
+    table.Lay({}, {0, 0, kOcho}, {kRey});
+    table.Window.CargarJuego(table.Window.GuardaJuego("a.zrp"));
+    EXPECT_EQ(told.back(), "Mesa vacía. Mano: 3, 8 de copa. Juega Humano.");
     table.Lay({kSiete}, {kOcho}, {});
     table.Press("1AL");
     EXPECT_TRUE(

@@ -30,7 +30,8 @@ class Description : public ControlVisitor {
     explicit Description(Form& form) {
         Add("Form", form,
             Text(Quoted(form.Caption), " on ", Color(form.BackColor),
-                 If(form.Border == FormBorder::FixedDialog, " dialog"), If(form.CenterOnScreen, " centred")));
+                 If(form.Border == FormBorder::FixedDialog, " dialog"), If(form.CenterOnScreen, " centred"),
+                 If(form.BoxArea.Height > 0, Text(" boxes above ", form.BoxArea.Height))));
         Inside(form);
         for (const Menu* const menu : form.Menus) {
             text_ += "Menu" + Quoted(menu->Caption);
@@ -118,6 +119,7 @@ TEST(Windows, HoldWhatTheirTablesSay) {
     table.Window.CheckMesa[7].Value = 1;
     ExpectAsInTable("playing", table.Window);
     EXPECT_EQ(table.Window.Frame1.DropPlace(), &table.Window.mesaimg[2]) << "the first that is free";
+    EXPECT_EQ(table.Window.CommonDialog.DefaultExt, "zrp");
     Resultadosfrm resultados(table.Desktop);
     ExpectAsInTable("resultados", resultados);
     preferenciasfrm opciones(table.Desktop, table.Window);
