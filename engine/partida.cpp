@@ -73,12 +73,12 @@ std::span<const Slot> Mesa::SlotsMano(Jugador quien) const {
     return std::span(slots_).subspan(first, kLugaresMano);
 }
 
+// The codes count the first four places of the table, the hands, and then the rest of the table.
 const Slot& Mesa::SlotDePosicion(int codigo) const {
     const auto i = static_cast<std::size_t>(codigo);
-    if (i <= 4) return SlotsMesa()[i - 1];
-    if (i <= 7) return SlotsMano(Jugador::Cpu)[i - 5];
-    if (i <= 10) return SlotsMano(Jugador::Humano)[i - 8];
-    return SlotsMesa()[i - 7];
+    if (i <= 4) return slots_[i - 1];
+    if (i <= 10) return slots_[i + 3];
+    return slots_[i - 7];
 }
 
 void Mesa::ResetGame() {

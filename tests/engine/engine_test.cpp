@@ -99,11 +99,12 @@ TEST(Reparto, LeavesPlacesBareWhenTheCardsEnd) {
 
 // Wherever on a full table the only card lies that makes 15.
 TEST(Paso, NobodyPassesWhoHasACapture) {
-    for (std::size_t place = 0; place < 8; ++place) {
+    for (std::size_t place = 0; place <= 8; ++place) {
         Table table;
         std::vector<int> mesa = {9, 10, 19, 20, 29, 30, 39, 40};
-        mesa[place] = Card(8, 'o');
-        table.Lay(mesa, {Card(7, 'o')}, {Card(1, 'c')});
+        if (place < 8) mesa[place] = Card(8, 'o');
+        const std::vector<int> small = {1, 2, 11, 12, 21, 22, 31, 32};  // make 15 all together with a three
+        table.Lay(place < 8 ? mesa : small, {place < 8 ? Card(7, 'o') : Card(3, 'o')}, {Card(1, 'c')});
         table.GiveMoveTo(Jugador::Humano);
         EXPECT_TRUE(table.Desktop.Boxes.empty()) << place;
     }

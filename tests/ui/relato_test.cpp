@@ -69,8 +69,11 @@ TEST(Relato, TellsWhoPassesAndHowADealEnds) {
     Naipes->aPuntajecpu(5);
     Reparto->aUltimoqLevanta("player1");
     Reparto->aZarpelP1(0);
+    std::string before;
+    table.Desktop.Modal = {[&](Form&) { before = told.back(); }};
     table.Press("1", kShift);
-    EXPECT_EQ(told.at(told.size() - 2),
+    EXPECT_EQ(before, told.at(told.size() - 2)) << "the count is told before its window is shown";
+    EXPECT_EQ(before,
               "Humano deja 8 de copa, mesa 3. Fin de la vuelta. La Cpu se lleva el resto: 7 de oro, 3 de "
               "basto y 8 de copa. Cartas: Cpu 3, Humano 37. Oros: Cpu 1, Humano 9. Sietes: Cpu 1, Humano 3. "
               "Velo: Cpu 1, Humano 0. Zarpel: Cpu 0, Humano 0. Puntos: Cpu 6, Humano 3.");
@@ -81,7 +84,9 @@ TEST(Relato, TellsWhoPassesAndHowADealEnds) {
     table.Window.CargarJuego(table.Window.GuardaJuego("a.zrp"));
     EXPECT_EQ(told.back(), "Mesa: 2, 7 de oro; 4, 3 de basto. Mano: 3, 8 de copa. Juega Humano.");
     table.Lay({}, {0, 0, kOcho}, {kRey});
+    told.clear();
     table.Window.CargarJuego(table.Window.GuardaJuego("a.zrp"));
+    EXPECT_EQ(told.size(), 1U) << "nothing of the match that was dealt meanwhile";
     EXPECT_EQ(told.back(), "Mesa vacía. Mano: 3, 8 de copa. Juega Humano.");
     table.Lay({kSiete}, {kOcho}, {});
     table.Press("1AL");

@@ -31,7 +31,8 @@ class Description : public ControlVisitor {
         Add("Form", form,
             Text(Quoted(form.Caption), " on ", Color(form.BackColor),
                  If(form.Border == FormBorder::FixedDialog, " dialog"), If(form.CenterOnScreen, " centred"),
-                 If(form.BoxArea.Height > 0, Text(" boxes above ", form.BoxArea.Height))));
+                 If(form.BoxArea.Height > 0, Text(" boxes in ", form.BoxArea.Left, " ", form.BoxArea.Top, " ",
+                                                  form.BoxArea.Width, " ", form.BoxArea.Height))));
         Inside(form);
         for (const Menu* const menu : form.Menus) {
             text_ += "Menu" + Quoted(menu->Caption);
