@@ -116,6 +116,7 @@ void ExpectAsInTable(const char* name, Form& form) {
 
 TEST(Windows, HoldWhatTheirTablesSay) {
     Table table;
+    table.Window.Load();  // as for a match that is opened
     table.Lay({3, 15, 0, 0, 0, 0, 0, 40}, {0, 27}, {20});
     table.Window.CheckMesa[7].Value = 1;
     ExpectAsInTable("playing", table.Window);
