@@ -1,5 +1,5 @@
 // The pictures of the game: each file is decoded once, scaled once per size, and kept. Scaling goes on beside
-// the rest of the program, since the first sight of the table waits for ten cards.
+// the rest of the program, since a deal begins with ten cards at once.
 #pragma once
 
 #include <QIcon>
